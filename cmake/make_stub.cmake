@@ -1,0 +1,21 @@
+# Writes a C file that defines every KX_ function the given objects call, so the
+# product links against a stand-in libpernix.so without the real library.
+# Usage: cmake -DNM=<nm> -DOUT=<file.c> -DOBJECTS=<a.o^b.o^...> -P make_stub.cmake
+string(REPLACE "^" ";" OBJECTS "${OBJECTS}")
+set(symbols "")
+foreach(obj IN LISTS OBJECTS)
+  execute_process(COMMAND ${NM} -u ${obj} OUTPUT_VARIABLE undefined RESULT_VARIABLE rc)
+  if(NOT rc EQUAL 0)
+    message(FATAL_ERROR "nm failed on ${obj}")
+  endif()
+  string(REGEX MATCHALL "KX_[A-Za-z0-9_]+" found "${undefined}")
+  list(APPEND symbols ${found})
+endforeach()
+list(REMOVE_DUPLICATES symbols)
+list(SORT symbols)
+set(text "/* Generated: link-time stand-in for libpernix.so. Never shipped. */\n")
+foreach(sym IN LISTS symbols)
+  string(APPEND text "int ${sym}(void) { return 0; }\n")
+endforeach()
+file(WRITE ${OUT}.tmp "${text}")
+execute_process(COMMAND ${CMAKE_COMMAND} -E copy_if_different ${OUT}.tmp ${OUT})

@@ -1,0 +1,44 @@
+#include "core/memory.h"
+
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+
+#ifdef KX_ALLOC_SEAM
+// Test builds route every record through the test double of the array
+// library, which can fail a chosen allocation, counts blocks and checks guard
+// bytes around each one on release.
+extern "C" void* pernix_seam_alloc(size_t bytes);
+extern "C" void pernix_seam_free(void* block, size_t bytes);
+#endif
+
+namespace kx {
+
+void* allocate(std::ptrdiff_t count, std::size_t size) {
+  if (count < 0 || size == 0) return nullptr;
+  auto n = static_cast<std::size_t>(count);
+  if (n != 0 && size > SIZE_MAX / n) return nullptr;
+  std::size_t bytes = n * size;
+#ifdef KX_ALLOC_SEAM
+  return pernix_seam_alloc(bytes);
+#else
+  return std::calloc(bytes == 0 ? 1 : bytes, 1);
+#endif
+}
+
+void release(void* block, std::size_t bytes, bool wipe) {
+  if (block == nullptr) return;
+  if (wipe) {
+    // Volatile stores so the clearing of a secret is not optimised away.
+    auto* p = static_cast<volatile unsigned char*>(block);
+    for (std::size_t i = 0; i < bytes; ++i) p[i] = 0;
+  }
+#ifdef KX_ALLOC_SEAM
+  pernix_seam_free(block, bytes);
+#else
+  (void)bytes;
+  std::free(block);
+#endif
+}
+
+}  // namespace kx

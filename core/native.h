@@ -1,0 +1,296 @@
+// The frame every native method shares, and the argument kinds it is built from.
+//
+// A native names the library function and lists its arguments in the
+// library's order, each as what it is on the Java side:
+//
+//   KX_NATIVE(jobject, GetDriveInformation, jstring unit, jobject session, jint a, jint b) {
+//     return kx::call(env, KX_GetDriveInformation, kx::Unit(unit), kx::Session(session), a, b,
+//                     kx::Out(kx::rec::DiskDriveInformation));
+//   }
+//
+// kx::call then runs the frame: fflush(stdout); a required String that is
+// null throws 258 before anything is allocated; strings are copied into
+// their fixed buffers; records are allocated zero-filled (65535 when one
+// cannot be had); input records are converted from their Java objects (a
+// conversion failure is not reported: the library gets what could be read);
+// the library is called exactly once; a non-zero result is thrown (256
+// silently); the output is converted into its Java result (2817 when that
+// fails); fflush(stdout) and return.  Every record is released exactly once
+// on every path, records that held secrets cleared first.
+#pragma once
+
+#include <jni.h>
+
+#include <concepts>
+#include <initializer_list>
+#include <cstdio>
+#include <type_traits>
+#include <utility>
+
+#include "core/accessors.h"
+#include "core/errors.h"
+#include "core/jni_refs.h"
+#include "core/memory.h"
+#include "core/record.h"
+#include "pernix_common.h"
+#include "orvane_str_diskarray_DiskArrayUtilityJNI.h"
+
+// Defines the native method for Java method KX_<Name> of DiskArrayUtilityJNI.
+// The generated header declares the same function, so a name or parameter
+// type that does not match the Java declaration fails to compile.
+#define KX_NATIVE(Ret, Name, ...)                                         \
+  extern "C" JNIEXPORT Ret JNICALL Java_orvane_str_diskarray_DiskArrayUtilityJNI_KX_1##Name( \
+      JNIEnv* env, jobject __VA_OPT__(, ) __VA_ARGS__)
+
+namespace kx {
+
+// ------------------------------------------------------------ frame options
+
+struct Options {
+  bool flush = true;  // fflush(stdout) on entry and before a successful return
+  jint failed = 0;    // what an int-returning native returns after a throw
+};
+inline constexpr Options kNoFlush{.flush = false};
+
+// ------------------------------------------------------------ argument kinds
+//
+// Each kind may provide: missing() (a required argument is null: 258),
+// prepare(env) (copy or allocate; false when memory ran out: 65535),
+// fill(env) (convert the Java input), arg() (what the library receives) and,
+// for the one result of a native, convert(env, code) and result_type.
+
+// A String argument copied into an N-byte buffer (at most N-1 bytes and a
+// NUL).  A required one that is null throws 258; an optional null or empty
+// one goes to the library as an empty string.
+template <size_t N, bool Required = true>
+struct Text {
+  jstring str;
+  char buf[N] = {};
+
+  bool missing() const { return Required && str == nullptr; }
+  bool prepare(JNIEnv* env) {
+    jni_jstring_to_char_array(env, str, buf, N);
+    return true;
+  }
+  char* arg() { return buf; }
+};
+
+inline Text<PERNIX_UNIT_NAME_SIZE> Unit(jstring s) { return {s}; }
+inline Text<PERNIX_PATH_SIZE> Path(jstring s) { return {s}; }
+// A unit name the native does not test for null.
+inline Text<PERNIX_UNIT_NAME_SIZE, false> UnitUnchecked(jstring s) { return {s}; }
+template <size_t N>
+Text<N> Chars(jstring s) { return {s}; }
+template <size_t N>
+Text<N, false> CharsUnchecked(jstring s) { return {s}; }
+
+// A record converted from a Java object before the call.  The conversion's
+// status is not looked at: a null object sends the zero-filled record.
+template <typename R>
+struct In {
+  In(jobject o, const Desc<R>& d, bool wipe = false) : obj(o), desc(d), secret(wipe) {}
+
+  jobject obj;
+  const Desc<R>& desc;
+  bool secret;
+  Records<R> rec;
+
+  bool missing() const { return false; }
+  bool prepare(JNIEnv*) {
+    rec = Records<R>(1, secret);
+    return static_cast<bool>(rec);
+  }
+  void fill(JNIEnv* env) { read_record(env, obj, desc, rec.get()); }
+  const R* arg() { return rec.get(); }
+};
+
+// An input record that carries a password or other secret: cleared before it
+// is released.
+template <typename R>
+In<R> Secret(jobject obj, const Desc<R>& desc) { return In<R>{obj, desc, true}; }
+
+// A record the library fills, returned to Java as a new object; 2817 when the
+// object cannot be built.
+template <typename R>
+struct Out {
+  explicit Out(const Desc<R>& d) : desc(d) {}
+
+  const Desc<R>& desc;
+  Records<R> rec;
+  using result_type = jobject;
+
+  bool prepare(JNIEnv*) {
+    rec = Records<R>(1);
+    return static_cast<bool>(rec);
+  }
+  R* arg() { return rec.get(); }
+  jobject convert(JNIEnv* env, int& code) {
+    jobject obj = write_record(env, desc, rec.get());
+    if (obj == nullptr) code = kMarshal;
+    return obj;
+  }
+};
+
+// How a list of records answers an element that cannot be built.
+enum class ListEnd {
+  Stop,   // the array is returned as it stands, later elements null, no report
+  Skip,   // the element stays null and the list goes on
+};
+
+// A fixed table of `Count` records the library fills, returned to Java as an
+// array of Count objects whatever the library says is valid.  Failing to make
+// the array returns null without a report.
+template <typename R>
+struct OutList {
+  OutList(const Desc<R>& d, jsize n, ListEnd e = ListEnd::Stop) : desc(d), count(n), end(e) {}
+
+  const Desc<R>& desc;
+  jsize count;
+  ListEnd end;
+  Records<R> rec;
+  using result_type = jobjectArray;
+
+  bool prepare(JNIEnv*) {
+    rec = Records<R>(count);
+    return static_cast<bool>(rec);
+  }
+  R* arg() { return rec.get(); }
+  jobjectArray convert(JNIEnv* env, int&) {
+    LocalRef<jobjectArray> arr(env, new_object_array(env, desc.cls, count));
+    if (!arr) return nullptr;
+    for (jsize i = 0; i < count; ++i) {
+      LocalRef<jobject> item(env, write_record(env, desc, &rec[static_cast<size_t>(i)]));
+      if (!item) {
+        if (end == ListEnd::Stop) break;
+        continue;
+      }
+      env->SetObjectArrayElement(arr.get(), i, item.get());
+    }
+    return arr.release();
+  }
+};
+
+// An int the library writes, returned to Java.
+struct IntOut {
+  int value = 0;
+  using result_type = jint;
+  bool prepare(JNIEnv*) { return true; }
+  int* arg() { return &value; }
+  jint convert(JNIEnv*, int&) { return value; }
+};
+
+// ------------------------------------------------------------ string results
+
+// A text field of a C record: at most `size` bytes, NUL-terminated within
+// them unless the library filled every byte.
+struct TextField {
+  const char* text;
+  size_t size;
+};
+
+// A new String[] holding the given fields in order.  Every String is made
+// before the array; a String that cannot be made leaves its element null.
+// Null, with `code` set to 2817, when the array itself cannot be made.
+jobjectArray string_array(JNIEnv* env, std::initializer_list<TextField> fields, int& code);
+
+// ------------------------------------------------------------ the frame
+
+namespace detail {
+
+template <typename S>
+concept ArgKind = requires(S s) { s.arg(); };
+template <typename S>
+concept Result = ArgKind<S> && requires { typename S::result_type; };
+
+template <typename S>
+bool missing(const S& s) {
+  if constexpr (requires { s.missing(); }) return s.missing();
+  else return false;
+}
+template <typename S>
+bool prepare(JNIEnv* env, S& s) {
+  if constexpr (ArgKind<S>) return s.prepare(env);
+  else return true;
+}
+template <typename S>
+void fill(JNIEnv* env, S& s) {
+  if constexpr (requires { s.fill(env); }) s.fill(env);
+}
+template <typename S>
+decltype(auto) arg(S& s) {
+  if constexpr (ArgKind<S>) return s.arg();
+  else return s;
+}
+
+template <typename... S>
+struct ResultOf {
+  using type = void;
+};
+template <typename S, typename... Rest>
+  requires Result<S>
+struct ResultOf<S, Rest...> {
+  using type = typename S::result_type;
+};
+template <typename S, typename... Rest>
+  requires(!Result<S>)
+struct ResultOf<S, Rest...> {
+  using type = typename ResultOf<Rest...>::type;
+};
+template <typename... S>
+using result_t = typename ResultOf<std::remove_cvref_t<S>...>::type;
+
+template <typename T>
+T failure(const Options& opt) {
+  if constexpr (std::is_same_v<T, jint>) return opt.failed;
+  else return T{};
+}
+
+// The result kind's conversion; exactly one argument may be a result.
+template <typename T, typename S, typename... Rest>
+T convert(JNIEnv* env, int& code, S& s, Rest&... rest) {
+  if constexpr (Result<S>) return s.convert(env, code);
+  else return convert<T>(env, code, rest...);
+}
+
+}  // namespace detail
+
+template <typename Fn, typename... S>
+  requires(!std::same_as<std::remove_cvref_t<Fn>, Options>)
+auto call(JNIEnv* env, const Options& opt, Fn&& fn, S&&... specs) -> detail::result_t<S...> {
+  using T = detail::result_t<S...>;
+  static_assert(((detail::Result<std::remove_cvref_t<S>> ? 1 : 0) + ... + 0) <= 1,
+                "a native has at most one result");
+  if (opt.flush) std::fflush(stdout);
+
+  auto fail = [&](int code) -> T {
+    errorThrow(env, code);
+    if constexpr (!std::is_void_v<T>) return detail::failure<T>(opt);
+  };
+
+  if ((detail::missing(specs) || ...)) return fail(kNullArgument);
+  bool ready = true;
+  ((ready = ready && detail::prepare(env, specs)), ...);
+  if (!ready) return fail(kNoMemory);
+  (detail::fill(env, specs), ...);
+
+  int rc = fn(detail::arg(specs)...);
+  if (rc != kOk) return fail(rc);
+
+  if constexpr (std::is_void_v<T>) {
+    if (opt.flush) std::fflush(stdout);
+  } else {
+    int code = kOk;
+    T result = detail::convert<T>(env, code, specs...);
+    if (code != kOk) return fail(code);
+    if (opt.flush) std::fflush(stdout);
+    return result;
+  }
+}
+
+template <typename Fn, typename... S>
+  requires(!std::same_as<std::remove_cvref_t<Fn>, Options>)
+auto call(JNIEnv* env, Fn&& fn, S&&... specs) -> detail::result_t<S...> {
+  return call(env, Options{}, std::forward<Fn>(fn), std::forward<S>(specs)...);
+}
+
+}  // namespace kx
