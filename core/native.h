@@ -113,14 +113,16 @@ In<R> Secret(jobject obj, const Desc<R>& desc) { return In<R>{obj, desc, true}; 
 // object cannot be built.
 template <typename R>
 struct Out {
-  explicit Out(const Desc<R>& d) : desc(d) {}
+  // `secret`: the record carries a password, cleared before release.
+  explicit Out(const Desc<R>& d, bool wipe = false) : desc(d), secret(wipe) {}
 
   const Desc<R>& desc;
+  bool secret;
   Records<R> rec;
   using result_type = jobject;
 
   bool prepare(JNIEnv*) {
-    rec = Records<R>(1);
+    rec = Records<R>(1, secret);
     return static_cast<bool>(rec);
   }
   R* arg() { return rec.get(); }

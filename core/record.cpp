@@ -89,6 +89,8 @@ int read_field(JNIEnv* env, jobject obj, const Field& f, void* rec) {
       }
       return kOk;
     }
+    case Kind::Custom:
+      return f.read ? f.read(env, obj, f, rec) : kOk;
   }
   return kMarshal;
 }
@@ -191,6 +193,8 @@ int write_field(JNIEnv* env, jobject obj, const Field& f, const void* rec) {
       }
       return jni_set_object(env, obj, f.name, f.elem->array2_sig, outer.get());
     }
+    case Kind::Custom:
+      return f.write ? f.write(env, obj, f, rec) : kOk;
   }
   return kMarshal;
 }

@@ -38,9 +38,16 @@ enum class Kind : uint8_t {
   Record,         // nested record <-> "L<class>;"
   Records,        // record[N]    <-> "[L<class>;"
   Records2,       // record[R][C] <-> "[[L<class>;"
+  Custom,         // a one-off layout, read and written by the field's own functions
 };
 
 struct RecordDesc;
+struct Field;
+
+// Converters of a Custom field; `rec` is the whole record.  Same status rules
+// as the built-in kinds: 0, kMarshal, or kNullRecord for a null nested value.
+using CustomReader = int (*)(JNIEnv* env, jobject obj, const Field& f, void* rec);
+using CustomWriter = int (*)(JNIEnv* env, jobject obj, const Field& f, const void* rec);
 
 struct Field {
   const char* name;
@@ -51,6 +58,8 @@ struct Field {
   uint32_t columns;         // two-level arrays: elements per row
   uint32_t stride;          // arrays of records: bytes per element
   const RecordDesc* elem;   // nested record description
+  CustomReader read = nullptr;
+  CustomWriter write = nullptr;
 };
 
 struct RecordDesc {
@@ -158,6 +167,12 @@ constexpr Field records2(const char* name, size_t offset, const Desc<E>& elem) {
                sizeof(E), &elem};
 }
 
+template <typename M>
+constexpr Field custom(const char* name, size_t offset, CustomReader read, CustomWriter write) {
+  return Field{name, Kind::Custom, true, static_cast<uint32_t>(offset),
+               static_cast<uint32_t>(sizeof(M)), 0, 0, nullptr, read, write};
+}
+
 constexpr Field unchecked(Field f) {
   f.checked = false;
   return f;
@@ -186,6 +201,10 @@ constexpr Field checked(Field f) {
 #define KX_NESTED(m, desc) ::kx::field::record<KX_MEMBER_T(m)>(#m, offsetof(kx_rec_t, m), desc)
 #define KX_RECORDS(m, desc) ::kx::field::records<KX_MEMBER_T(m)>(#m, offsetof(kx_rec_t, m), desc)
 #define KX_RECORDS2(m, desc) ::kx::field::records2<KX_MEMBER_T(m)>(#m, offsetof(kx_rec_t, m), desc)
+// A field with its own reader and writer (either may be null: not converted
+// in that direction).  Field::count holds the member's size in bytes.
+#define KX_CUSTOM(m, reader, writer) \
+  ::kx::field::custom<KX_MEMBER_T(m)>(#m, offsetof(kx_rec_t, m), reader, writer)
 // Writer status policy, where it departs from the default (strings are not
 // checked, everything else is).
 #define KX_UNCHECKED(f) ::kx::field::unchecked(f)

@@ -1,0 +1,252 @@
+// Call log, scripts and the allocation seam of the test double, and the
+// natives of kxtest.FakePernix through which the JVM tests drive them.
+#include "fake.h"
+
+#include <jni.h>
+
+#include <cstdlib>
+#include <map>
+#include <mutex>
+#include <sstream>
+
+namespace fake {
+namespace {
+
+constexpr size_t kGuard = 32;
+constexpr uint8_t kGuardByte = 0xA5;
+
+struct State {
+  std::recursive_mutex mu;
+  std::vector<Call> calls;
+  std::map<std::string, int> results;
+  std::map<std::pair<std::string, size_t>, std::vector<uint8_t>> outputs;
+  // seam
+  long allocations = 0;
+  long fail_at = 0;  // 1-based index of the allocation that fails; 0: none
+  std::map<const void*, size_t> live;
+  std::vector<std::string> faults;
+};
+
+State& state() {
+  static State s;
+  return s;
+}
+
+}  // namespace
+
+Call& begin(const char* fn) {
+  State& s = state();
+  s.mu.lock();
+  s.calls.push_back(Call{fn, {}});
+  return s.calls.back();
+}
+
+void record(Call& call, const void* p, size_t size) {
+  Arg a;
+  if (p == nullptr) {
+    a.is_null = true;
+  } else {
+    auto it = state().live.find(p);
+    if (it != state().live.end() && it->second < size) {
+      state().faults.push_back(call.fn + ": argument " + std::to_string(call.args.size()) +
+                               " is a block of " + std::to_string(it->second) + " bytes, " +
+                               std::to_string(size) + " expected");
+      size = it->second;
+    }
+    const auto* b = static_cast<const uint8_t*>(p);
+    a.bytes.assign(b, b + size);
+  }
+  call.args.push_back(std::move(a));
+}
+
+void record_int(Call& call, int32_t value) {
+  Arg a;
+  a.value = value;
+  call.args.push_back(std::move(a));
+}
+
+void serve(const char* fn, size_t index, void* p, size_t size) {
+  auto it = state().outputs.find({fn, index});
+  if (it == state().outputs.end() || p == nullptr) return;
+  std::memcpy(p, it->second.data(), std::min(size, it->second.size()));
+}
+
+int finish(const char* fn) {
+  State& s = state();
+  auto it = s.results.find(fn);
+  int rc = it == s.results.end() ? 0 : it->second;
+  s.mu.unlock();
+  return rc;
+}
+
+}  // namespace fake
+
+// ---------------------------------------------------------------- the seam
+
+extern "C" __attribute__((visibility("default"))) void* pernix_seam_alloc(size_t bytes) {
+  using namespace fake;
+  State& s = state();
+  std::lock_guard<std::recursive_mutex> lock(s.mu);
+  if (++s.allocations == s.fail_at) return nullptr;
+  auto* raw = static_cast<uint8_t*>(std::malloc(bytes + 2 * kGuard));
+  if (raw == nullptr) return nullptr;
+  std::memset(raw, kGuardByte, kGuard);
+  std::memset(raw + kGuard, 0, bytes);
+  std::memset(raw + kGuard + bytes, kGuardByte, kGuard);
+  s.live[raw + kGuard] = bytes;
+  return raw + kGuard;
+}
+
+extern "C" __attribute__((visibility("default"))) void pernix_seam_free(void* block, size_t bytes) {
+  using namespace fake;
+  State& s = state();
+  std::lock_guard<std::recursive_mutex> lock(s.mu);
+  auto it = s.live.find(block);
+  if (it == s.live.end()) {
+    s.faults.push_back("release of a block that is not live (double or foreign release)");
+    return;
+  }
+  if (it->second != bytes) {
+    s.faults.push_back("block of " + std::to_string(it->second) + " bytes released as " +
+                       std::to_string(bytes));
+  }
+  auto* raw = static_cast<uint8_t*>(block) - kGuard;
+  for (size_t i = 0; i < kGuard; ++i) {
+    if (raw[i] != kGuardByte || raw[kGuard + it->second + i] != kGuardByte) {
+      s.faults.push_back("guard bytes of a " + std::to_string(it->second) +
+                         "-byte block overwritten");
+      break;
+    }
+  }
+  s.live.erase(it);
+  std::free(raw);
+}
+
+// ---------------------------------------------------------------- JVM control
+
+namespace {
+
+using fake::state;
+
+std::string utf(JNIEnv* env, jstring s) {
+  if (s == nullptr) return {};
+  const char* c = env->GetStringUTFChars(s, nullptr);
+  std::string out = c ? c : "";
+  if (c) env->ReleaseStringUTFChars(s, c);
+  return out;
+}
+
+// The call'th call of fn (0-based), or null after throwing IllegalArgumentException.
+const fake::Call* find_call(JNIEnv* env, const std::string& fn, jint call) {
+  jint seen = 0;
+  for (const auto& c : state().calls) {
+    if (c.fn == fn && seen++ == call) return &c;
+  }
+  std::string msg = fn + " was not called " + std::to_string(call + 1) + " time(s)";
+  env->ThrowNew(env->FindClass("java/lang/IllegalArgumentException"), msg.c_str());
+  return nullptr;
+}
+
+const fake::Arg* find_arg(JNIEnv* env, jstring fn, jint call, jint arg) {
+  const fake::Call* c = find_call(env, utf(env, fn), call);
+  if (c == nullptr) return nullptr;
+  if (arg < 0 || static_cast<size_t>(arg) >= c->args.size()) {
+    env->ThrowNew(env->FindClass("java/lang/IllegalArgumentException"), "no such argument");
+    return nullptr;
+  }
+  return &c->args[static_cast<size_t>(arg)];
+}
+
+}  // namespace
+
+#define FAKE_JNI(ret, name) \
+  extern "C" __attribute__((visibility("default"))) JNIEXPORT ret JNICALL Java_kxtest_FakePernix_##name
+
+FAKE_JNI(void, reset)(JNIEnv*, jclass) {
+  auto& s = state();
+  std::lock_guard<std::recursive_mutex> lock(s.mu);
+  s.calls.clear();
+  s.results.clear();
+  s.outputs.clear();
+  s.allocations = 0;
+  s.fail_at = 0;
+  s.faults.clear();
+  // Blocks still live belong to the test that leaked them; it has been told.
+  s.live.clear();
+}
+
+FAKE_JNI(void, willReturn)(JNIEnv* env, jclass, jstring fn, jint code) {
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  state().results[utf(env, fn)] = code;
+}
+
+FAKE_JNI(void, willWrite)(JNIEnv* env, jclass, jstring fn, jint arg, jbyteArray data) {
+  std::vector<uint8_t> bytes(static_cast<size_t>(env->GetArrayLength(data)));
+  env->GetByteArrayRegion(data, 0, static_cast<jsize>(bytes.size()), reinterpret_cast<jbyte*>(bytes.data()));
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  state().outputs[{utf(env, fn), static_cast<size_t>(arg)}] = std::move(bytes);
+}
+
+FAKE_JNI(jint, calls)(JNIEnv* env, jclass, jstring fn) {
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  std::string name = utf(env, fn);
+  jint n = 0;
+  for (const auto& c : state().calls) n += c.fn == name;
+  return n;
+}
+
+FAKE_JNI(jobjectArray, log)(JNIEnv* env, jclass) {
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  const auto& calls = state().calls;
+  jobjectArray arr = env->NewObjectArray(static_cast<jsize>(calls.size()), env->FindClass("java/lang/String"), nullptr);
+  for (size_t i = 0; i < calls.size(); ++i) {
+    jstring s = env->NewStringUTF(calls[i].fn.c_str());
+    env->SetObjectArrayElement(arr, static_cast<jsize>(i), s);
+    env->DeleteLocalRef(s);
+  }
+  return arr;
+}
+
+FAKE_JNI(jbyteArray, arg)(JNIEnv* env, jclass, jstring fn, jint call, jint arg) {
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  const fake::Arg* a = find_arg(env, fn, call, arg);
+  if (a == nullptr || a->is_null) return nullptr;
+  jbyteArray out = env->NewByteArray(static_cast<jsize>(a->bytes.size()));
+  env->SetByteArrayRegion(out, 0, static_cast<jsize>(a->bytes.size()),
+                          reinterpret_cast<const jbyte*>(a->bytes.data()));
+  return out;
+}
+
+FAKE_JNI(jint, intArg)(JNIEnv* env, jclass, jstring fn, jint call, jint arg) {
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  const fake::Arg* a = find_arg(env, fn, call, arg);
+  return a == nullptr ? 0 : a->value;
+}
+
+FAKE_JNI(jboolean, isNull)(JNIEnv* env, jclass, jstring fn, jint call, jint arg) {
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  const fake::Arg* a = find_arg(env, fn, call, arg);
+  return a != nullptr && a->is_null ? JNI_TRUE : JNI_FALSE;
+}
+
+FAKE_JNI(void, failAllocation)(JNIEnv*, jclass, jint k) {
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  state().fail_at = k;
+}
+
+FAKE_JNI(jint, allocations)(JNIEnv*, jclass) {
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  return static_cast<jint>(state().allocations);
+}
+
+FAKE_JNI(jint, liveBlocks)(JNIEnv*, jclass) {
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  return static_cast<jint>(state().live.size());
+}
+
+FAKE_JNI(jstring, faults)(JNIEnv* env, jclass) {
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  std::ostringstream out;
+  for (const auto& f : state().faults) out << f << '\n';
+  return env->NewStringUTF(out.str().c_str());
+}

@@ -1,0 +1,97 @@
+package kxtest;
+
+import static org.junit.Assert.assertArrayEquals;
+import static org.junit.Assert.assertEquals;
+import static org.junit.Assert.assertTrue;
+import static org.junit.Assert.fail;
+
+import java.nio.charset.StandardCharsets;
+import orvane.str.diskarray.DiskArrayUtilityJNI;
+import org.junit.After;
+import org.junit.Before;
+
+/**
+ * Base of the JVM tests: a fresh test double for every test, and after every
+ * test a check that the bridge released each block exactly once, within its
+ * bounds.
+ */
+public abstract class BridgeTest {
+    protected final DiskArrayUtilityJNI jni = new DiskArrayUtilityJNI();
+
+    @Before
+    public void resetFake() {
+        FakePernix.reset();
+    }
+
+    @After
+    public void checkSeam() {
+        assertEquals("release faults", "", FakePernix.faults());
+        assertEquals("blocks not released", 0, FakePernix.liveBlocks());
+    }
+
+    /** A body that may throw anything. */
+    public interface Body {
+        void run() throws Throwable;
+    }
+
+    /** Runs body, which must throw; returns what it threw. */
+    public static Throwable thrown(Body body) {
+        try {
+            body.run();
+        } catch (Throwable t) {
+            return t;
+        }
+        fail("nothing was thrown");
+        return null;
+    }
+
+    /** The result code of the DiskArrayException that body throws. */
+    public static int code(Body body) {
+        Throwable t = thrown(body);
+        assertEquals("orvane.str.diskarray.DiskArrayException", t.getClass().getName());
+        try {
+            return (Integer) t.getClass().getMethod("getCode").invoke(t);
+        } catch (ReflectiveOperationException e) {
+            throw new AssertionError(e);
+        }
+    }
+
+    /** Asserts body throws the out-of-memory report: ClassNotFoundException "java/lang/OutofMemoryError". */
+    public static void assertOutOfMemory(Body body) {
+        Throwable t = thrown(body);
+        assertEquals(ClassNotFoundException.class, t.getClass());
+        assertEquals("java/lang/OutofMemoryError", t.getMessage());
+    }
+
+    /** Fails each allocation of body in turn and checks each is reported as out of memory. */
+    public static void assertEachAllocationFailureReported(Body body) throws Throwable {
+        FakePernix.reset();
+        body.run();
+        int n = FakePernix.allocations();
+        assertTrue("body allocates nothing", n > 0);
+        for (int k = 1; k <= n; k++) {
+            FakePernix.reset();
+            FakePernix.failAllocation(k);
+            assertOutOfMemory(body);
+            assertEquals("blocks not released after failing allocation " + k, 0, FakePernix.liveBlocks());
+            assertEquals("", FakePernix.faults());
+        }
+        FakePernix.reset();
+    }
+
+    /** The n-byte NUL-padded C buffer holding s. */
+    public static byte[] cstr(String s, int n) {
+        byte[] out = new byte[n];
+        byte[] b = s.getBytes(StandardCharsets.UTF_8);
+        System.arraycopy(b, 0, out, 0, Math.min(b.length, n - 1));
+        return out;
+    }
+
+    public static void assertCString(String expected, int n, byte[] actual) {
+        assertArrayEquals(cstr(expected, n), actual);
+    }
+
+    public static String repeat(char c, int n) {
+        return String.valueOf(c).repeat(n);
+    }
+}

@@ -1,0 +1,52 @@
+package kxtest;
+
+/**
+ * Control of the test double of libpernix.so: what each KX_ function returns and
+ * writes, what it was handed, and the allocation seam of the bridge's test build.
+ * Argument indices are 0-based positions in the C call.
+ */
+public final class FakePernix {
+    static {
+        System.load(System.getProperty("kx.fake"));
+    }
+
+    private FakePernix() {}
+
+    /** Forgets calls, scripts and seam state. */
+    public static native void reset();
+
+    /** Every later call of fn returns code. */
+    public static native void willReturn(String fn, int code);
+
+    /** Every later call of fn writes data into its pointer argument arg (at most its size). */
+    public static native void willWrite(String fn, int arg, byte[] data);
+
+    /** Writes a little-endian int into the int out-argument arg of fn. */
+    public static void willWriteInt(String fn, int arg, int value) {
+        willWrite(fn, arg, Rec.of(4).i32(0, value).bytes());
+    }
+
+    public static native int calls(String fn);
+
+    /** Names of all functions called, in order. */
+    public static native String[] log();
+
+    /** Bytes of pointer argument arg of the call'th call (0-based) of fn, as handed over; null for a null pointer. */
+    public static native byte[] arg(String fn, int call, int arg);
+
+    public static native int intArg(String fn, int call, int arg);
+
+    public static native boolean isNull(String fn, int call, int arg);
+
+    /** The k-th allocation of the bridge (1-based, counted from reset) fails; 0 for none. */
+    public static native void failAllocation(int k);
+
+    /** Allocations made since reset. */
+    public static native int allocations();
+
+    /** Blocks allocated and not yet released. */
+    public static native int liveBlocks();
+
+    /** Release faults seen: double or foreign releases, size mismatches, overwritten guards. */
+    public static native String faults();
+}
