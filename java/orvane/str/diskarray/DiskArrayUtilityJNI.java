@@ -28,7 +28,20 @@ public class DiskArrayUtilityJNI {
 
     // ---- unit registry, discovery, identity and condition ----
 
-    // ---- RAID groups, logical units, formatting and drives ----
+    // ---- end of units ----
+
+
+    // ---- RAID groups and logical units ----
+
+    // ---- end of RAID groups and logical units ----
+
+
+    // ---- formatting, parity correction and drives ----
+
+    // ---- end of formatting and drives ----
+
 
     // ---- accounts, array users and audit log ----
+
+    // ---- end of accounts ----
 }
