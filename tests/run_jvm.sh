@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Runs JUnit test classes in a JVM with -Xcheck:jni against the bridge and the
-# test double.  Fails when a test fails or the JVM reports any JNI misuse.
+# test double (the core probe library sits beside the double).  Fails when a test fails or the JVM reports any JNI misuse.
 # usage: run_jvm.sh <classpath> <bridge.so> <fake libpernix.so> <test class>...
 set -u
 cp=$1 bridge=$2 fake=$3
@@ -8,7 +8,8 @@ shift 3
 log=$(mktemp)
 trap 'rm -f "$log"' EXIT
 LD_LIBRARY_PATH="$(dirname "$fake")${LD_LIBRARY_PATH:+:$LD_LIBRARY_PATH}" \
-  java -Xcheck:jni -ea -Dkx.library="$bridge" -Dkx.fake="$fake" -cp "$cp" \
+  java -Xcheck:jni -ea -Dkx.library="$bridge" -Dkx.fake="$fake" \
+  -Dkx.probe="$(dirname "$fake")/libkxprobe.so" -cp "$cp" \
   org.junit.runner.JUnitCore "$@" 2>&1 | tee "$log"
 rc=${PIPESTATUS[0]}
 if grep -qE 'WARNING in native method|FATAL ERROR|WARNING: JNI|Warning: JNI' "$log"; then

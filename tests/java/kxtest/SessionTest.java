@@ -9,6 +9,7 @@ import orvane.str.diskarray.KXSessionInfo;
 import orvane.str.diskarray.KXUserInfo;
 import org.junit.Test;
 
+/** Unit login, logout, login state and session keep-alive. */
 public class SessionTest extends BridgeTest {
     static KXSessionInfo session(int seed) {
         KXSessionInfo s = new KXSessionInfo();
@@ -23,11 +24,148 @@ public class SessionTest extends BridgeTest {
         return u;
     }
 
+    private static byte[] loginAnswer(String first, String second) {
+        return Rec.of(36).str(0, first).str(17, second).bytes();
+    }
+
+    // ---- KX_LoginKXUnit
+
+    @Test
+    public void loginHandsNameModeAndCredentialsInTheirBuffers() {
+        FakePernix.willWrite("KX_LoginKXUnit", 3, loginAnswer("operator", "rev2"));
+        String[] names = jni.KX_LoginKXUnit("array-7", 3, user("ABCDEFGHIJKLMNOPQRST", "secret"));
+        assertArrayEquals(new String[] {"operator", "rev2"}, names);
+
+        assertCString("array-7", 1024, FakePernix.arg("KX_LoginKXUnit", 0, 0));
+        assertEquals(3, FakePernix.intArg("KX_LoginKXUnit", 0, 1));
+        Rec cred = Rec.wrap(FakePernix.arg("KX_LoginKXUnit", 0, 2));
+        assertEquals(34, cred.size());
+        assertArrayEquals(cstr("ABCDEFGHIJKLMNOP", 17), cred.slice(0, 17)); // 16 bytes and a NUL
+        assertArrayEquals(cstr("secret", 17), cred.slice(17, 17));
+        assertTrue("the answer record starts zeroed", Rec.wrap(FakePernix.arg("KX_LoginKXUnit", 0, 3)).zero(0, 36));
+    }
+
+    @Test
+    public void loginCutsTheUnitNameTo1023Bytes() {
+        jni.KX_LoginKXUnit(repeat('u', 1500), 0, user("a", "b"));
+        assertCString(repeat('u', 1023), 1024, FakePernix.arg("KX_LoginKXUnit", 0, 0));
+    }
+
+    @Test
+    public void loginWithAnEmptyFirstAnswerReturnsNull() {
+        FakePernix.willWrite("KX_LoginKXUnit", 3, loginAnswer("", "second"));
+        assertNull(jni.KX_LoginKXUnit("u", 0, user("a", "b")));
+    }
+
+    @Test
+    public void loginAnswerFilledToTheLastByteIsCutThere() {
+        byte[] full = new byte[36];
+        java.util.Arrays.fill(full, 0, 34, (byte) 'x');
+        FakePernix.willWrite("KX_LoginKXUnit", 3, full);
+        String[] names = jni.KX_LoginKXUnit("u", 0, user("a", "b"));
+        assertEquals(repeat('x', 17), names[0]);
+        assertEquals(repeat('x', 17), names[1]);
+    }
+
+    @Test
+    public void loginWithoutCredentialsSendsAnEmptyRecord() {
+        FakePernix.willWrite("KX_LoginKXUnit", 3, loginAnswer("x", "y"));
+        jni.KX_LoginKXUnit("", 0, null);
+        assertTrue(Rec.wrap(FakePernix.arg("KX_LoginKXUnit", 0, 2)).zero(0, 34));
+        assertTrue(Rec.wrap(FakePernix.arg("KX_LoginKXUnit", 0, 0)).zero(0, 1024));
+    }
+
+    @Test
+    public void loginFailuresAreReported() {
+        assertEquals(258, code(() -> jni.KX_LoginKXUnit(null, 0, user("a", "b"))));
+        assertEquals(0, FakePernix.calls("KX_LoginKXUnit"));
+
+        FakePernix.willReturn("KX_LoginKXUnit", 0x1234);
+        assertEquals(0x1234, code(() -> jni.KX_LoginKXUnit("u", 0, user("a", "b"))));
+
+        FakePernix.willReturn("KX_LoginKXUnit", 256);
+        FakePernix.willWrite("KX_LoginKXUnit", 3, loginAnswer("x", "y"));
+        assertNull(jni.KX_LoginKXUnit("u", 0, user("a", "b")));
+    }
+
+    // ---- logout, reset, check
+
+    @Test
+    public void logoutResetAndCheckPassNameAndMode() {
+        jni.KX_LogoutKXUnit("unit-a", 1);
+        jni.KX_ResetLogin("unit-b", 2);
+        FakePernix.willWriteInt("KX_CheckLogin", 2, 77);
+        assertEquals(77, jni.KX_CheckLogin("unit-c", 3));
+
+        assertArrayEquals(new String[] {"KX_LogoutKXUnit", "KX_ResetLogin", "KX_CheckLogin"}, FakePernix.log());
+        assertCString("unit-a", 1024, FakePernix.arg("KX_LogoutKXUnit", 0, 0));
+        assertEquals(1, FakePernix.intArg("KX_LogoutKXUnit", 0, 1));
+        assertCString("unit-b", 1024, FakePernix.arg("KX_ResetLogin", 0, 0));
+        assertEquals(2, FakePernix.intArg("KX_ResetLogin", 0, 1));
+        assertCString("unit-c", 1024, FakePernix.arg("KX_CheckLogin", 0, 0));
+        assertEquals(3, FakePernix.intArg("KX_CheckLogin", 0, 1));
+    }
+
+    @Test
+    public void logoutResetAndCheckReportFailures() {
+        assertEquals(258, code(() -> jni.KX_LogoutKXUnit(null, 1)));
+        assertEquals(258, code(() -> jni.KX_ResetLogin(null, 1)));
+        assertEquals(258, code(() -> jni.KX_CheckLogin(null, 1)));
+        assertEquals(0, FakePernix.log().length);
+
+        FakePernix.willReturn("KX_LogoutKXUnit", -7);
+        FakePernix.willReturn("KX_ResetLogin", 3);
+        FakePernix.willReturn("KX_CheckLogin", 9);
+        FakePernix.willWriteInt("KX_CheckLogin", 2, 5);
+        assertEquals(-7, code(() -> jni.KX_LogoutKXUnit("u", 1)));
+        assertEquals(3, code(() -> jni.KX_ResetLogin("u", 1)));
+        assertEquals(9, code(() -> jni.KX_CheckLogin("u", 1)));
+
+        FakePernix.willReturn("KX_CheckLogin", 256);
+        assertEquals(0, jni.KX_CheckLogin("u", 1)); // not reported, nothing returned
+        FakePernix.willReturn("KX_LogoutKXUnit", 256);
+        jni.KX_LogoutKXUnit("u", 1);
+    }
+
+    // ---- KX_KeepSession
+
     @Test
     public void keepSessionHandsNameAndTokenToTheLibrary() {
-        jni.KX_KeepSession("unit-1", session(7));
-        assertEquals(1, FakePernix.calls("KX_KeepSession"));
-        assertCString("unit-1", 65, FakePernix.arg("KX_KeepSession", 0, 0));
+        jni.KX_KeepSession(repeat('n', 70), session(7));
+        assertCString(repeat('n', 64), 65, FakePernix.arg("KX_KeepSession", 0, 0));
         assertArrayEquals(session(7).session_id, FakePernix.arg("KX_KeepSession", 0, 1));
+    }
+
+    @Test
+    public void keepSessionWithoutATokenSendsAnEmptyRecord() {
+        jni.KX_KeepSession("u", null);
+        assertArrayEquals(new byte[32], FakePernix.arg("KX_KeepSession", 0, 1));
+
+        KXSessionInfo none = new KXSessionInfo();
+        none.session_id = null;
+        jni.KX_KeepSession("u", none);
+        assertArrayEquals(new byte[32], FakePernix.arg("KX_KeepSession", 1, 1));
+    }
+
+    @Test
+    public void keepSessionWithAShortTokenStillCallsTheLibrary() {
+        KXSessionInfo shortOne = new KXSessionInfo();
+        shortOne.session_id = new byte[10];
+        Throwable t = thrown(() -> jni.KX_KeepSession("u", shortOne));
+        assertEquals(ArrayIndexOutOfBoundsException.class, t.getClass());
+        assertArrayEquals(new byte[32], FakePernix.arg("KX_KeepSession", 0, 1));
+
+        FakePernix.willReturn("KX_KeepSession", 12);
+        assertEquals(12, code(() -> jni.KX_KeepSession("u", shortOne)));
+    }
+
+    @Test
+    public void keepSessionReportsFailures() throws Throwable {
+        assertEquals(258, code(() -> jni.KX_KeepSession(null, session(1))));
+        assertEquals(0, FakePernix.calls("KX_KeepSession"));
+        FakePernix.willReturn("KX_KeepSession", 0xB02);
+        assertEquals(0xB02, code(() -> jni.KX_KeepSession("u", session(1))));
+        FakePernix.reset();
+        assertEachAllocationFailureReported(() -> jni.KX_KeepSession("u", session(1)));
     }
 }

@@ -1,0 +1,144 @@
+// Test-only natives of kxtest.CoreProbe: the field and array helpers and the
+// exception functions, called directly so their own rules can be checked from
+// the JVM.  Built into its own library, never into the product.
+#include <jni.h>
+
+#include <vector>
+
+#include "core/accessors.h"
+#include "core/errors.h"
+
+namespace {
+
+std::vector<char> buffer_from(JNIEnv* env, jbyteArray dst) {
+  std::vector<char> buf(static_cast<size_t>(env->GetArrayLength(dst)));
+  env->GetByteArrayRegion(dst, 0, static_cast<jsize>(buf.size()), reinterpret_cast<jbyte*>(buf.data()));
+  return buf;
+}
+
+void copy_back(JNIEnv* env, const std::vector<char>& buf, jbyteArray dst) {
+  // Keep whatever exception the helper left pending: region calls are not
+  // allowed then, and the test wants to see that exception.
+  if (env->ExceptionCheck()) return;
+  env->SetByteArrayRegion(dst, 0, static_cast<jsize>(buf.size()), reinterpret_cast<const jbyte*>(buf.data()));
+}
+
+struct Utf {
+  Utf(JNIEnv* e, jstring s) : env(e), str(s), chars(e->GetStringUTFChars(s, nullptr)) {}
+  ~Utf() { env->ReleaseStringUTFChars(str, chars); }
+  JNIEnv* env;
+  jstring str;
+  const char* chars;
+};
+
+}  // namespace
+
+#define PROBE(ret, name) \
+  extern "C" JNIEXPORT ret JNICALL Java_kxtest_CoreProbe_##name
+
+// dst's current bytes are the buffer the helper sees; its result is copied back.
+PROBE(jint, getString)(JNIEnv* env, jclass, jobject obj, jstring field, jbyteArray dst) {
+  auto buf = buffer_from(env, dst);
+  Utf name(env, field);
+  jint rc = jni_get_string(env, obj, name.chars, buf.data(), buf.size());
+  copy_back(env, buf, dst);
+  return rc;
+}
+
+PROBE(jint, getStrArray)(JNIEnv* env, jclass, jobject obj, jstring field, jint n, jbyteArray dst) {
+  auto buf = buffer_from(env, dst);
+  Utf name(env, field);
+  jint rc = jni_get_str_array(env, obj, name.chars, buf.data(), static_cast<size_t>(n),
+                              buf.size() / static_cast<size_t>(n));
+  copy_back(env, buf, dst);
+  return rc;
+}
+
+PROBE(jint, jstringToChars)(JNIEnv* env, jclass, jstring str, jbyteArray dst) {
+  auto buf = buffer_from(env, dst);
+  jint rc = jni_jstring_to_char_array(env, str, buf.data(), buf.size());
+  copy_back(env, buf, dst);
+  return rc;
+}
+
+PROBE(jint, multiByte)(JNIEnv* env, jclass, jstring str, jbyteArray dst) {
+  auto buf = buffer_from(env, dst);
+  jint rc = jni_get_string_multi_byte(env, str, buf.data(), buf.size());
+  copy_back(env, buf, dst);
+  return rc;
+}
+
+PROBE(jint, getIntArray)(JNIEnv* env, jclass, jobject obj, jstring field, jintArray dst) {
+  jsize n = env->GetArrayLength(dst);
+  std::vector<int32_t> buf(static_cast<size_t>(n));
+  Utf name(env, field);
+  jint rc = jni_get_int_array(env, obj, name.chars, buf.data(), n);
+  if (!env->ExceptionCheck()) env->SetIntArrayRegion(dst, 0, n, reinterpret_cast<const jint*>(buf.data()));
+  return rc;
+}
+
+PROBE(jint, getInt2Array)(JNIEnv* env, jclass, jobject obj, jstring field, jint rows, jint cols, jintArray dst) {
+  std::vector<int32_t> buf(static_cast<size_t>(rows * cols));
+  Utf name(env, field);
+  jint rc = jni_get_int_2array(env, obj, name.chars, buf.data(), rows, cols);
+  if (!env->ExceptionCheck()) env->SetIntArrayRegion(dst, 0, rows * cols, reinterpret_cast<const jint*>(buf.data()));
+  return rc;
+}
+
+PROBE(jint, bytesFromInts)(JNIEnv* env, jclass, jobject obj, jstring field, jbyteArray dst) {
+  auto buf = buffer_from(env, dst);
+  Utf name(env, field);
+  jint rc = jni_char_array_from_int_array(env, obj, name.chars, buf.data(), buf.size());
+  copy_back(env, buf, dst);
+  return rc;
+}
+
+PROBE(jintArray, intsFromBytes)(JNIEnv* env, jclass, jbyteArray src) {
+  auto buf = buffer_from(env, src);
+  return jni_create_int_array_from_char(env, buf.data(), static_cast<jsize>(buf.size()));
+}
+
+PROBE(jint, setByteArray)(JNIEnv* env, jclass, jobject obj, jstring field, jbyteArray src) {
+  auto buf = buffer_from(env, src);
+  Utf name(env, field);
+  return jni_set_byte_array(env, obj, name.chars, buf.data(), static_cast<jsize>(buf.size()));
+}
+
+PROBE(jint, setStrArray)(JNIEnv* env, jclass, jobject obj, jstring field, jbyteArray src, jint count, jint n) {
+  auto buf = buffer_from(env, src);
+  Utf name(env, field);
+  return jni_set_str_array(env, obj, name.chars, buf.data(), count, n);
+}
+
+PROBE(jint, setStringUnicode)(JNIEnv* env, jclass, jobject obj, jstring field, jbyteArray src) {
+  auto buf = buffer_from(env, src);
+  Utf name(env, field);
+  return jni_set_string_unicode(env, obj, name.chars, buf.data(), buf.size());
+}
+
+PROBE(jint, setShortFromDouble)(JNIEnv* env, jclass, jobject obj, jstring field, jdouble v) {
+  Utf name(env, field);
+  return jni_set_short_from_double(env, obj, name.chars, v);
+}
+
+PROBE(jdouble, getDoubleFromShort)(JNIEnv* env, jclass, jobject obj, jstring field) {
+  Utf name(env, field);
+  return jni_get_double_from_short(env, obj, name.chars);
+}
+
+PROBE(jint, getInt)(JNIEnv* env, jclass, jobject obj, jstring field) {
+  Utf name(env, field);
+  return jni_get_int(env, obj, name.chars);
+}
+
+PROBE(jint, errorThrow)(JNIEnv* env, jclass, jint code) { return errorThrow(env, code); }
+
+PROBE(jint, classNotFoundThrow)(JNIEnv* env, jclass, jstring path) {
+  Utf p(env, path);
+  return classNotFoundThrow(env, p.chars);
+}
+
+PROBE(jobject, newObject)(JNIEnv* env, jclass, jstring cls) {
+  Utf p(env, cls);
+  return jni_new_object(env, p.chars);
+}
