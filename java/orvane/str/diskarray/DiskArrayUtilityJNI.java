@@ -27,6 +27,27 @@ public class DiskArrayUtilityJNI {
     public native void KX_KeepSession(String unitName, KXSessionInfo session);
 
     // ---- unit registry, discovery, identity and condition ----
+    public native void KX_UnitAdd(KXUnitParam unit);
+    public native void KX_UnitAddByIP(KXUnitParam unit);
+    public native void KX_UnitChange(String unitName, KXUnitParam unit);
+    public native void KX_UnitChangeByIP(String unitName, KXUnitParam unit);
+    public native void KX_UnitDelete(String unitName);
+    public native KXUnitParam KX_GetUnitParam(String unitName);
+    public native int KX_GetUnitCount();
+    public native KXUnitParam[] KX_GetUnitParamTable(int count);
+    public native DiscoverUnit KX_DiscoverUnitInformation(DiscoverEntry entry);
+    public native DiscoverUnit KX_DiscoverUnitInformationEx(DiscoverEntry entry);
+    public native UnitIdentifier KX_GetUnitIdentifier(String unitName);
+    public native void KX_SetUnitIdentifier(String unitName, UnitIdentifier id);
+    public native void KX_UnitReboot(String unitName, KXSessionInfo session);
+    public native void KX_TestUnitReady(String unitName, int value);
+    public native void KX_GUIInitialize(GUIInitialize init);
+    public native void KX_EnvironmentCheck();
+    public native void KX_JavaVersionCheck(String version);
+    public native void KX_RgLuFileOutput(String unitName, String path);
+    public native String KX_ModifyInfo(String name, int value);
+    public native String[] KX_APIRevision();
+    public native UnitCondition KX_GetUnitCondition(String unitName, KXSessionInfo session, int a);
 
     // ---- end of units ----
 

@@ -1,0 +1,6 @@
+package orvane.str.diskarray;
+
+public class CacheStatus {
+    public int option;
+    public int condition;
+}

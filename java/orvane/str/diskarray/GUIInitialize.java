@@ -1,0 +1,5 @@
+package orvane.str.diskarray;
+
+public class GUIInitialize {
+    public String damp_path;
+}

@@ -1,0 +1,22 @@
+package orvane.str.diskarray;
+
+/** A unit record whose failAt'th construction throws. */
+public class KXUnitParam {
+    public static int failAt;
+    public static int made;
+
+    public String unit_name;
+    public String group_name;
+    public int connect_type;
+    public int kx_type;
+    public int device_type;
+    public int unit_conf;
+    public int alert;
+    public String ctl0;
+    public String ctl1;
+    public String serial;
+
+    public KXUnitParam() {
+        if (++made == failAt) throw new IllegalStateException("unit record " + made);
+    }
+}
