@@ -63,6 +63,38 @@ public class DiskArrayUtilityJNI {
 
 
     // ---- accounts, array users and audit log ----
+    public native KXSessionInfo KX_LoginKXAccount(String unitName, KXAccountLogin login);
+    public native void KX_LogoutKXAccount(String unitName, KXSessionInfo session, KXAccountLogout logout);
+    public native KXSessionInfo KX_LoginKXAccountAlertCheck(String unitName, int a);
+    public native void KX_LogoutKXAccountAlertCheck(String unitName, KXSessionInfo session, KXAccountLogout logout);
+    public native void KX_ForcedLogoutKXAccount(String unitName, KXSessionInfo session, ForcedLogoutInfo info);
+    public native KXAccountInfoList KX_GetAccountInformation(String unitName, KXSessionInfo session);
+    public native void KX_CreateAccount(String unitName, KXSessionInfo session, KXAccountBaseInfo base);
+    public native void KX_ChangeAccount(String unitName, KXSessionInfo session, KXAccountBaseInfo base);
+    public native void KX_DeleteAccount(String unitName, KXSessionInfo session, KXAccountDelete del);
+    public native void KX_ChangeOwnUserPassword(String unitName, KXSessionInfo session, OwnUserPassword password);
+    public native OwnUserPermission KX_GetOwnUserPermission(String unitName, KXSessionInfo session);
+    public native KXAccountRoleInformation KX_GetKXAccountRoleInformation(String unitName, KXSessionInfo session);
+    public native AccountOption KX_GetAccountOption(String unitName, KXSessionInfo session);
+    public native int KX_AlertCheck(String unitName, KXSessionInfo session, int a);
+    public native void KX_SetAlertCheckUser(AlertCheckUser user);
+    public native AlertCheckUser KX_GetAlertCheckUser();
+    public native String[] KX_GetLoginUser(String path, int a);
+    public native KXUserRegist KX_GetUserInformation(String path, int a);
+    public native void KX_RegistUser(String path, int a, KXUserInfo user);
+    public native void KX_ChangeUser(String path, int a, KXUserInfo oldUser, KXUserInfo newUser);
+    public native void KX_DeleteUser(String path, int a, KXUserInfo user);
+    public native void KX_DeleteAllUser(String path, int a);
+    public native void KX_PasswdChange(String path);
+    public native int KX_PasswdCheck(String text);
+    public native KXUserLANInformation KX_GetKXUserLANInformation(String unitName, KXSessionInfo session);
+    public native void KX_SetKXUserLANInformation(String unitName, KXSessionInfo session, KXUserLANInformation lan);
+    public native KXUserLANInformation KX_LoadKXUserLANInformation(String unitName, KXSessionInfo session, String path);
+    public native KXAuditLogInformation KX_GetKXAuditLogInformation(String unitName, KXSessionInfo session);
+    public native void KX_SetKXAuditLogInformation(String unitName, KXSessionInfo session, KXAuditLogInformation info);
+    public native void KX_KXAuditLogExport(String unitName, KXSessionInfo session, String path);
+    public native void KX_InitKXAuditLog(String unitName, KXSessionInfo session, KXAuditLogInit init);
+    public native FibreInformationPermission[] KX_FibreInfoPermissionImport(String unitName, String path, int a, int b);
 
     // ---- end of accounts ----
 }

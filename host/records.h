@@ -1,0 +1,18 @@
+// Host access: record descriptions.
+#pragma once
+
+#include "core/native.h"
+#include "host.h"
+#include "session/records.h"
+
+// ==== Fibre Channel ports, WWN security and target IDs ====
+
+KX_RECORD(FibreInformationPermission, FibreInformationPermissionRec,
+          KX_STRING(node_name),
+          KX_STRING(port_name),
+          KX_STRING(n_port_id),
+          KX_BYTES(lun_security_bitmap));
+
+KX_CONVERTERS(FibreInformationPermission, FibreInformationPermission, FibreInformationPermissionRec)
+
+// ==== end of Fibre Channel ports, WWN security and target IDs ====

@@ -1,0 +1,5 @@
+package orvane.str.diskarray;
+
+public class AccountAdditionalInfo {
+    public int keep_alive_time;
+}

@@ -1,0 +1,10 @@
+package orvane.str.diskarray;
+
+public class KXAccountBaseInfo {
+    public String user_id;
+    public int set_passwd;
+    public String passwd;
+    public int account_type;
+    public int role;
+    public int account_enable;
+}

@@ -1,0 +1,5 @@
+package orvane.str.diskarray;
+
+public class KXAccountDelete {
+    public String user_id;
+}

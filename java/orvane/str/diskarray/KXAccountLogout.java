@@ -1,0 +1,5 @@
+package orvane.str.diskarray;
+
+public class KXAccountLogout {
+    public int log_option;
+}

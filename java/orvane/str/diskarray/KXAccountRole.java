@@ -1,0 +1,5 @@
+package orvane.str.diskarray;
+
+public class KXAccountRole {
+    public String role_name;
+}

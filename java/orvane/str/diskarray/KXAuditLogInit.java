@@ -1,0 +1,5 @@
+package orvane.str.diskarray;
+
+public class KXAuditLogInit {
+    public int set_valid;
+}

@@ -1,0 +1,5 @@
+package orvane.str.diskarray;
+
+public class KXAuditLogInternalLog {
+    public int internallog_used;
+}

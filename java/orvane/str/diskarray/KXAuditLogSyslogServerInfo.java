@@ -1,0 +1,6 @@
+package orvane.str.diskarray;
+
+public class KXAuditLogSyslogServerInfo {
+    public int serverall_used;
+    public KXAuditLogSyslogServer[] server;
+}

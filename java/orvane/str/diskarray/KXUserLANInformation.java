@@ -1,0 +1,8 @@
+package orvane.str.diskarray;
+
+public class KXUserLANInformation {
+    public KXUserLANDetail[] ctl;
+    public int mainte_ip_change_mode;
+    public int last_set_mode;
+    public int logout_instruction;
+}

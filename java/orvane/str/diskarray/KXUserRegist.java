@@ -1,0 +1,6 @@
+package orvane.str.diskarray;
+
+public class KXUserRegist {
+    public int num;
+    public int option;
+}

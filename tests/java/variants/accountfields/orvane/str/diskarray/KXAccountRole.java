@@ -1,0 +1,6 @@
+package orvane.str.diskarray;
+
+/** Lacks role_name. */
+public class KXAccountRole {
+    public String name;
+}
