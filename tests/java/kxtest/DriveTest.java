@@ -139,6 +139,16 @@ public class DriveTest extends BridgeTest {
     }
 
     @Test
+    public void vendorBytesThatAreNotTextStillGiveTheIntFields() {
+        Rec r = driveInfo(5).put(0, new byte[] {(byte) 0xFF, (byte) 0xC3, (byte) 0x80, (byte) 0xFE, 0});
+        FakePernix.willWrite("KX_GetDriveInformation", 4, r.bytes());
+        DiskDriveInformation d = jni.KX_GetDriveInformation("u", S, 0, 1);
+        assertEquals(0x7FFFFFFF - 5, d.lastLBA);
+        assertEquals(7205, d.drive_rotation);
+        assertEquals("SN5", d.serial);
+    }
+
+    @Test
     public void driveInformationAllBuildsAllFourHundredFiftySlots() {
         Rec list = Rec.of(450 * 76);
         for (int i : new int[] {0, 1, 225, 449}) list.put(76 * i, driveInfo(i + 1).bytes());
