@@ -12,6 +12,378 @@
 
 /* ==== formatting, parity correction and drives ==== */
 
+#pragma pack(push, 1)
+
+/* ---- formatting and parity correction ---- */
+
+/* Byte map of the LUs to format: one byte per LU number 0..2047, non-zero
+ * meaning selected. */
+typedef struct FormatListRec {
+  uint8_t lu[2048];
+} FormatListRec;
+PERNIX_SIZE(FormatListRec, 2048);
+PERNIX_OFFSET(FormatListRec, lu, 0);
+
+/* Byte map of the LUs to quick-format, LU numbers 0..4095. */
+typedef struct QuickFormatListRec {
+  uint8_t lu[4096];
+} QuickFormatListRec;
+PERNIX_SIZE(QuickFormatListRec, 4096);
+PERNIX_OFFSET(QuickFormatListRec, lu, 0);
+
+/* LUs to put under parity correction: a count and a list of LU numbers. */
+typedef struct ParityCorrectionListRec {
+  int32_t correction_mode;
+  int32_t lu_count;
+  int32_t lu[4096];
+} ParityCorrectionListRec;
+PERNIX_SIZE(ParityCorrectionListRec, 16392);
+PERNIX_OFFSET(ParityCorrectionListRec, correction_mode, 0);
+PERNIX_OFFSET(ParityCorrectionListRec, lu_count, 4);
+PERNIX_OFFSET(ParityCorrectionListRec, lu, 8);
+
+typedef struct QuickFormatOptionRec {
+  int32_t valid_index;
+  int32_t change_index;
+  int32_t priority_mode;
+  int32_t format_mode;
+} QuickFormatOptionRec;
+PERNIX_SIZE(QuickFormatOptionRec, 16);
+PERNIX_OFFSET(QuickFormatOptionRec, valid_index, 0);
+PERNIX_OFFSET(QuickFormatOptionRec, change_index, 4);
+PERNIX_OFFSET(QuickFormatOptionRec, priority_mode, 8);
+PERNIX_OFFSET(QuickFormatOptionRec, format_mode, 12);
+
+/* Format progress of one LU; the sense fields carry the SCSI sense data of a
+ * failed format. */
+typedef struct LuFormatStatusRec {
+  int32_t status;
+  int32_t percent;
+  int32_t err_code_sense_key;
+  int32_t err_code_sense_code;
+} LuFormatStatusRec;
+PERNIX_SIZE(LuFormatStatusRec, 16);
+PERNIX_OFFSET(LuFormatStatusRec, status, 0);
+PERNIX_OFFSET(LuFormatStatusRec, percent, 4);
+PERNIX_OFFSET(LuFormatStatusRec, err_code_sense_key, 8);
+PERNIX_OFFSET(LuFormatStatusRec, err_code_sense_code, 12);
+
+typedef struct LuFormatStatusListRec {
+  LuFormatStatusRec lu[2048];
+} LuFormatStatusListRec;
+PERNIX_SIZE(LuFormatStatusListRec, 32768);
+PERNIX_OFFSET(LuFormatStatusListRec, lu, 0);
+
+/* `entry` is non-zero when the LU is in the format list. */
+typedef struct FormatStatusRec {
+  int32_t entry;
+  int32_t status;
+  int32_t percent;
+  int32_t err_code_sense_key;
+  int32_t err_code_sense_code;
+} FormatStatusRec;
+PERNIX_SIZE(FormatStatusRec, 20);
+PERNIX_OFFSET(FormatStatusRec, entry, 0);
+PERNIX_OFFSET(FormatStatusRec, status, 4);
+PERNIX_OFFSET(FormatStatusRec, percent, 8);
+PERNIX_OFFSET(FormatStatusRec, err_code_sense_key, 12);
+PERNIX_OFFSET(FormatStatusRec, err_code_sense_code, 16);
+
+typedef struct FormatStatusListRec {
+  int32_t mode;
+  int32_t totalpercent;
+  int32_t resttime;
+  FormatStatusRec lu[2048];
+} FormatStatusListRec;
+PERNIX_SIZE(FormatStatusListRec, 40972);
+PERNIX_OFFSET(FormatStatusListRec, mode, 0);
+PERNIX_OFFSET(FormatStatusListRec, totalpercent, 4);
+PERNIX_OFFSET(FormatStatusListRec, resttime, 8);
+PERNIX_OFFSET(FormatStatusListRec, lu, 12);
+
+/* `waiting_number` is the LU's place in the format queue. */
+typedef struct QuickFormatStatusRec {
+  int32_t entry;
+  int32_t status;
+  int32_t percent;
+  int32_t waiting_number;
+} QuickFormatStatusRec;
+PERNIX_SIZE(QuickFormatStatusRec, 16);
+PERNIX_OFFSET(QuickFormatStatusRec, entry, 0);
+PERNIX_OFFSET(QuickFormatStatusRec, status, 4);
+PERNIX_OFFSET(QuickFormatStatusRec, percent, 8);
+PERNIX_OFFSET(QuickFormatStatusRec, waiting_number, 12);
+
+typedef struct QuickFormatStatusListRec {
+  int32_t priority_mode;
+  int32_t format_mode;
+  QuickFormatStatusRec lu[4096];
+} QuickFormatStatusListRec;
+PERNIX_SIZE(QuickFormatStatusListRec, 65544);
+PERNIX_OFFSET(QuickFormatStatusListRec, priority_mode, 0);
+PERNIX_OFFSET(QuickFormatStatusListRec, format_mode, 4);
+PERNIX_OFFSET(QuickFormatStatusListRec, lu, 8);
+
+typedef struct CorrectionLuStatusRec {
+  int32_t status;
+  int32_t percent;
+  int32_t waiting_number;
+} CorrectionLuStatusRec;
+PERNIX_SIZE(CorrectionLuStatusRec, 12);
+PERNIX_OFFSET(CorrectionLuStatusRec, status, 0);
+PERNIX_OFFSET(CorrectionLuStatusRec, percent, 4);
+PERNIX_OFFSET(CorrectionLuStatusRec, waiting_number, 8);
+
+typedef struct ParityCorrectionStatusListRec {
+  CorrectionLuStatusRec lu[4096];
+} ParityCorrectionStatusListRec;
+PERNIX_SIZE(ParityCorrectionStatusListRec, 49152);
+PERNIX_OFFSET(ParityCorrectionStatusListRec, lu, 0);
+
+/* ---- drives ---- */
+
+/* Identity of one drive; the strings are NUL-terminated in their buffers. */
+typedef struct DiskDriveInformationRec {
+  char vendor[9];
+  char product[17];
+  char revision[6];
+  int32_t lastLBA;
+  char drive_capacity[12];
+  int32_t add_info_index;
+  char serial[12];
+  int32_t unit_type;
+  int32_t unit_type_sub_code;
+  int32_t drive_rotation;
+} DiskDriveInformationRec;
+PERNIX_SIZE(DiskDriveInformationRec, 76);
+PERNIX_OFFSET(DiskDriveInformationRec, vendor, 0);
+PERNIX_OFFSET(DiskDriveInformationRec, product, 9);
+PERNIX_OFFSET(DiskDriveInformationRec, revision, 26);
+PERNIX_OFFSET(DiskDriveInformationRec, lastLBA, 32);
+PERNIX_OFFSET(DiskDriveInformationRec, drive_capacity, 36);
+PERNIX_OFFSET(DiskDriveInformationRec, add_info_index, 48);
+PERNIX_OFFSET(DiskDriveInformationRec, serial, 52);
+PERNIX_OFFSET(DiskDriveInformationRec, unit_type, 64);
+PERNIX_OFFSET(DiskDriveInformationRec, unit_type_sub_code, 68);
+PERNIX_OFFSET(DiskDriveInformationRec, drive_rotation, 72);
+
+/* One drive slot: position, mounted or not, attribute, state, and for a
+ * spare the position of the drive it stands in for. */
+typedef struct DiskDriveRec {
+  int32_t port_no;
+  int32_t row_no;
+  int32_t mount;
+  int32_t attribute;
+  int32_t drv_state;
+  int32_t spare_of_disk_port;
+  int32_t spare_of_disk_row;
+} DiskDriveRec;
+PERNIX_SIZE(DiskDriveRec, 28);
+PERNIX_OFFSET(DiskDriveRec, port_no, 0);
+PERNIX_OFFSET(DiskDriveRec, row_no, 4);
+PERNIX_OFFSET(DiskDriveRec, mount, 8);
+PERNIX_OFFSET(DiskDriveRec, attribute, 12);
+PERNIX_OFFSET(DiskDriveRec, drv_state, 16);
+PERNIX_OFFSET(DiskDriveRec, spare_of_disk_port, 20);
+PERNIX_OFFSET(DiskDriveRec, spare_of_disk_row, 24);
+
+typedef struct DiskDriveRestorationRec {
+  int32_t mode;
+  int32_t restoration;
+  int32_t dynamic_sparing;
+  int32_t interval;
+  int32_t unit_size;
+  int32_t sparemode;
+  int32_t no_copyback_allunit;
+} DiskDriveRestorationRec;
+PERNIX_SIZE(DiskDriveRestorationRec, 28);
+PERNIX_OFFSET(DiskDriveRestorationRec, mode, 0);
+PERNIX_OFFSET(DiskDriveRestorationRec, restoration, 4);
+PERNIX_OFFSET(DiskDriveRestorationRec, dynamic_sparing, 8);
+PERNIX_OFFSET(DiskDriveRestorationRec, interval, 12);
+PERNIX_OFFSET(DiskDriveRestorationRec, unit_size, 16);
+PERNIX_OFFSET(DiskDriveRestorationRec, sparemode, 20);
+PERNIX_OFFSET(DiskDriveRestorationRec, no_copyback_allunit, 24);
+
+/* Rebuild progress of a drive; `progress_ratio` in per cent. */
+typedef struct DriveReconstructInformationRec {
+  int32_t valid;
+  int32_t status_code;
+  int32_t progress_ratio;
+  int32_t hdu_no;
+  int32_t unit_no;
+} DriveReconstructInformationRec;
+PERNIX_SIZE(DriveReconstructInformationRec, 20);
+PERNIX_OFFSET(DriveReconstructInformationRec, valid, 0);
+PERNIX_OFFSET(DriveReconstructInformationRec, status_code, 4);
+PERNIX_OFFSET(DriveReconstructInformationRec, progress_ratio, 8);
+PERNIX_OFFSET(DriveReconstructInformationRec, hdu_no, 12);
+PERNIX_OFFSET(DriveReconstructInformationRec, unit_no, 16);
+
+typedef struct SweepInfoRec {
+  int32_t sweep_valid;
+  int32_t interval_time;
+  int32_t stop_time;
+  int32_t unload;
+  int32_t onlineVerify;
+} SweepInfoRec;
+PERNIX_SIZE(SweepInfoRec, 20);
+PERNIX_OFFSET(SweepInfoRec, sweep_valid, 0);
+PERNIX_OFFSET(SweepInfoRec, interval_time, 4);
+PERNIX_OFFSET(SweepInfoRec, stop_time, 8);
+PERNIX_OFFSET(SweepInfoRec, unload, 12);
+PERNIX_OFFSET(SweepInfoRec, onlineVerify, 16);
+
+typedef struct DriveFlashInfoRec {
+  int32_t compare_mode;
+  int32_t drv_flash_time;
+  int32_t drv_flash_io_count;
+} DriveFlashInfoRec;
+PERNIX_SIZE(DriveFlashInfoRec, 12);
+PERNIX_OFFSET(DriveFlashInfoRec, compare_mode, 0);
+PERNIX_OFFSET(DriveFlashInfoRec, drv_flash_time, 4);
+PERNIX_OFFSET(DriveFlashInfoRec, drv_flash_io_count, 8);
+
+typedef struct SmartInfoRec {
+  int32_t smart_valid;
+  int32_t reassign_thres;
+} SmartInfoRec;
+PERNIX_SIZE(SmartInfoRec, 8);
+PERNIX_OFFSET(SmartInfoRec, smart_valid, 0);
+PERNIX_OFFSET(SmartInfoRec, reassign_thres, 4);
+
+/* SATA drive sweep, flash and SMART settings, three records held inline. */
+typedef struct SATADriveInformationRec {
+  SweepInfoRec sweep_info;
+  DriveFlashInfoRec flash_info;
+  SmartInfoRec smart_info;
+} SATADriveInformationRec;
+PERNIX_SIZE(SATADriveInformationRec, 40);
+PERNIX_OFFSET(SATADriveInformationRec, sweep_info, 0);
+PERNIX_OFFSET(SATADriveInformationRec, flash_info, 20);
+PERNIX_OFFSET(SATADriveInformationRec, smart_info, 32);
+
+typedef struct SATADriveRestorationRec {
+  int32_t collect_copy_times;
+} SATADriveRestorationRec;
+PERNIX_SIZE(SATADriveRestorationRec, 4);
+PERNIX_OFFSET(SATADriveRestorationRec, collect_copy_times, 0);
+
+typedef struct DriveResponseDiagRec {
+  int32_t valid;
+  int32_t set_mode;
+  int32_t mode;
+  int32_t threshold;
+  int32_t sata_diag;
+  int32_t autodiag_threshold;
+} DriveResponseDiagRec;
+PERNIX_SIZE(DriveResponseDiagRec, 24);
+PERNIX_OFFSET(DriveResponseDiagRec, valid, 0);
+PERNIX_OFFSET(DriveResponseDiagRec, set_mode, 4);
+PERNIX_OFFSET(DriveResponseDiagRec, mode, 8);
+PERNIX_OFFSET(DriveResponseDiagRec, threshold, 12);
+PERNIX_OFFSET(DriveResponseDiagRec, sata_diag, 16);
+PERNIX_OFFSET(DriveResponseDiagRec, autodiag_threshold, 20);
+
+/* Power saving of one RAID group. */
+typedef struct SpinDownUpRGInfoRec {
+  int32_t rgnum;
+  int32_t rg_power_saving_status;
+  int32_t rg_power_saving;
+  int32_t spin_down_count;
+  int32_t spin_error;
+} SpinDownUpRGInfoRec;
+PERNIX_SIZE(SpinDownUpRGInfoRec, 20);
+PERNIX_OFFSET(SpinDownUpRGInfoRec, rgnum, 0);
+PERNIX_OFFSET(SpinDownUpRGInfoRec, rg_power_saving_status, 4);
+PERNIX_OFFSET(SpinDownUpRGInfoRec, rg_power_saving, 8);
+PERNIX_OFFSET(SpinDownUpRGInfoRec, spin_down_count, 12);
+PERNIX_OFFSET(SpinDownUpRGInfoRec, spin_error, 16);
+
+/* Power saving of one LU. */
+typedef struct SpinDownUpLuInfoRec {
+  int32_t lun;
+  int32_t lu_power_saving;
+  int32_t lu_power_saving_detail;
+} SpinDownUpLuInfoRec;
+PERNIX_SIZE(SpinDownUpLuInfoRec, 12);
+PERNIX_OFFSET(SpinDownUpLuInfoRec, lun, 0);
+PERNIX_OFFSET(SpinDownUpLuInfoRec, lu_power_saving, 4);
+PERNIX_OFFSET(SpinDownUpLuInfoRec, lu_power_saving_detail, 8);
+
+/* Power saving of the unit: every RAID group and every LU slot, whatever the
+ * counts say. */
+typedef struct SpinDownUpInformationRec {
+  int32_t option;
+  int32_t rg_count;
+  SpinDownUpRGInfoRec rg[90];
+  int32_t lu_count;
+  SpinDownUpLuInfoRec lu[4096];
+} SpinDownUpInformationRec;
+PERNIX_SIZE(SpinDownUpInformationRec, 50964);
+PERNIX_OFFSET(SpinDownUpInformationRec, option, 0);
+PERNIX_OFFSET(SpinDownUpInformationRec, rg_count, 4);
+PERNIX_OFFSET(SpinDownUpInformationRec, rg, 8);
+PERNIX_OFFSET(SpinDownUpInformationRec, lu_count, 1808);
+PERNIX_OFFSET(SpinDownUpInformationRec, lu, 1812);
+
+#pragma pack(pop)
+
+PERNIX_BEGIN_DECLS
+
+/* formatting and parity correction */
+int KX_LogicalUnitFormat(const char* unit, int a, int b);
+int KX_LogicalUnitFormatStatus(const char* unit, int lun, int* out);
+int KX_LogicalUnitFormatImmediateCTL(const char* unit, int a, int b, int* out);
+int KX_LogicalUnitFormatStatusList(const char* unit, LuFormatStatusListRec* list);
+int KX_EntryFormatList(const char* unit, const FormatListRec* list);
+int KX_GetFormatStatusList(const char* unit, FormatStatusListRec* list);
+int KX_GetQuickFormatOption(const char* unit, const KXSessionInfoRec* session,
+                            QuickFormatOptionRec* option);
+int KX_SetQuickFormatOption(const char* unit, const KXSessionInfoRec* session,
+                            const QuickFormatOptionRec* option);
+int KX_EntryQuickFormatList(const char* unit, const KXSessionInfoRec* session,
+                            const QuickFormatListRec* list);
+int KX_GetQuickFormatStatusList(const char* unit, const KXSessionInfoRec* session,
+                                QuickFormatStatusListRec* list);
+int KX_EntryParityCorrectionList(const char* unit, const KXSessionInfoRec* session,
+                                 const ParityCorrectionListRec* list);
+int KX_GetParityCorrectionStatusList(const char* unit, const KXSessionInfoRec* session,
+                                     ParityCorrectionStatusListRec* list);
+
+/* drives */
+int KX_GetDriveInformation(const char* unit, const KXSessionInfoRec* session, int a, int b,
+                           DiskDriveInformationRec* info);
+int KX_GetDriveInformationAll(const char* unit, const KXSessionInfoRec* session,
+                              DiskDriveInformationRec* list /* [450] */);
+int KX_GetDriveStatus(const char* unit, const KXSessionInfoRec* session,
+                      DiskDriveRec* list /* [450] */);
+int KX_DriveReconstructInformation(const char* unit, const KXSessionInfoRec* session, int a,
+                                   int b, DriveReconstructInformationRec* info);
+int KX_GetDiskDriveRestoration(const char* unit, const KXSessionInfoRec* session,
+                               DiskDriveRestorationRec* rec);
+int KX_SetDiskDriveRestoration(const char* unit, const KXSessionInfoRec* session,
+                               const DiskDriveRestorationRec* rec);
+int KX_GetSATADriveInformation(const char* unit, const KXSessionInfoRec* session,
+                               SATADriveInformationRec* rec);
+int KX_SetSATADriveInformation(const char* unit, const KXSessionInfoRec* session,
+                               const SATADriveInformationRec* rec);
+int KX_GetSATADriveRestoration(const char* unit, const KXSessionInfoRec* session,
+                               SATADriveRestorationRec* rec);
+int KX_SetSATADriveRestoration(const char* unit, const KXSessionInfoRec* session,
+                               const SATADriveRestorationRec* rec);
+int KX_GetDriveResponseDiag(const char* unit, const KXSessionInfoRec* session,
+                            DriveResponseDiagRec* rec);
+int KX_SetDriveResponseDiag(const char* unit, const KXSessionInfoRec* session,
+                            const DriveResponseDiagRec* rec);
+int KX_SetDriveMode(const char* unit, const KXSessionInfoRec* session, int a, int b, int c);
+int KX_GetSpinDownUpInformation(const char* unit, const KXSessionInfoRec* session,
+                                SpinDownUpInformationRec* rec);
+int KX_SpinDownDriveByRG(const char* unit, const KXSessionInfoRec* session, int rgnum);
+int KX_SpinUpDriveByRG(const char* unit, const KXSessionInfoRec* session, int rgnum);
+
+PERNIX_END_DECLS
+
 /* ==== end of formatting, parity correction and drives ==== */
 
 #endif

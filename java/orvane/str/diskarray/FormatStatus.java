@@ -1,0 +1,9 @@
+package orvane.str.diskarray;
+
+public class FormatStatus {
+    public int entry;
+    public int status;
+    public int percent;
+    public int err_code_sense_key;
+    public int err_code_sense_code;
+}

@@ -1,0 +1,5 @@
+package orvane.str.diskarray;
+
+public class QuickFormatList {
+    public byte[] lu = new byte[4096];
+}

@@ -1,0 +1,5 @@
+package orvane.str.diskarray;
+
+public class SATADriveRestoration {
+    public int collect_copy_times;
+}

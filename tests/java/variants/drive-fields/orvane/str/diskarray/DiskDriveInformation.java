@@ -1,0 +1,14 @@
+package orvane.str.diskarray;
+
+/** Lacks the int field lastLBA. */
+public class DiskDriveInformation {
+    public String vendor;
+    public String product;
+    public String revision;
+    public String drive_capacity;
+    public int add_info_index;
+    public String serial;
+    public int unit_type;
+    public int unit_type_sub_code;
+    public int drive_rotation;
+}

@@ -1,0 +1,6 @@
+package orvane.str.diskarray;
+
+/** Lacks reassign_thres. */
+public class SmartInfo {
+    public int smart_valid;
+}

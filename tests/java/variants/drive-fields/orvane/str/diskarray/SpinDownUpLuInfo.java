@@ -1,0 +1,8 @@
+package orvane.str.diskarray;
+
+/** Holds lun as a long, not an int. */
+public class SpinDownUpLuInfo {
+    public long lun;
+    public int lu_power_saving;
+    public int lu_power_saving_detail;
+}
