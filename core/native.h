@@ -162,7 +162,9 @@ struct OutList {
     if (!arr) return nullptr;
     for (jsize i = 0; i < count; ++i) {
       LocalRef<jobject> item(env, write_record(env, desc, &rec[static_cast<size_t>(i)]));
-      if (!item) {
+      // With an exception pending the element cannot be stored: it counts as
+      // not built.
+      if (!item || pending(env)) {
         if (end == ListEnd::Stop) break;
         continue;
       }

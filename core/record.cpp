@@ -126,7 +126,9 @@ jobjectArray write_elements(JNIEnv* env, const RecordDesc& elem, const uint8_t* 
   if (!arr) return nullptr;
   for (uint32_t i = 0; i < count; ++i) {
     LocalRef<jobject> item(env, write_record(env, elem, src + static_cast<size_t>(i) * stride));
-    if (!item) return nullptr;
+    // An element whose unchecked field failed comes back with the JVM's
+    // exception pending: storing it would be a JNI call made then.
+    if (!item || pending(env)) return nullptr;
     env->SetObjectArrayElement(arr.get(), static_cast<jsize>(i), item.get());
     if (pending(env)) return nullptr;
   }
