@@ -7,6 +7,66 @@
 
 // ==== RAID groups and logical units ====
 
+KX_RECORD(RaidGroup, RaidGroupRec,
+          KX_INT(rgnum), KX_INT(level), KX_INT(port), KX_INT(row), KX_INT(width), KX_INT(depth),
+          KX_INT(minimum_capa), KX_INT(lastLBASet), KX_INT(lastLBA), KX_INT(rest_h), KX_INT(rest),
+          KX_INT(lumaxcapa), KX_INT(unit_type), KX_INT(unit_type_sub_code));
+
+KX_RECORD(CreateRgDrive, CreateRgDriveRec,
+          KX_INT(unit_no), KX_INT(hdu_no));
+
+// The drive list is read over the Java array's length, never past its 450
+// slots; a null list leaves the slots empty.
+KX_RECORD(CreateRaidGroup, CreateRaidGroupRec,
+          KX_INT(create_mode), KX_INT(rgnum), KX_INT(level), KX_INT(drive_type), KX_INT(drive_capa),
+          KX_INT(parity_hdu_count), KX_INT(parity_count),
+          KX_RECORDS(rgdrv, kx::rec::CreateRgDrive));
+
+KX_RECORD(RgDetail, RgDetailRec,
+          KX_INT(valid_index), KX_INT(rgnum), KX_INT(level), KX_INT(start_unit_no),
+          KX_INT(start_hdu_no), KX_INT(parity_hdu_count), KX_INT(parity_count),
+          KX_INT(minimum_capa), KX_INT(total_capa_h), KX_INT(total_capa_l), KX_INT(rest_capa_h),
+          KX_INT(rest_capa_l), KX_INT(rg_type));
+
+KX_RECORD(RgDriveInfo, RgDriveInfoRec,
+          KX_INT(valid_index), KX_INT(next_unit_no), KX_INT(next_hdu_no), KX_INT(paritygroup_no));
+
+// Always 90 groups and 30 rows of 15 drive links, whatever rg_count says.
+KX_RECORD(RaidGroupInformation, RaidGroupInformationRec,
+          KX_INT(rg_count),
+          KX_RECORDS(rg, kx::rec::RgDetail),
+          KX_RECORDS2(rgdrv, kx::rec::RgDriveInfo));
+
+KX_RECORD(AreaInfo, AreaInfoRec,
+          KX_INT(areakind), KX_INT(lun), KX_INT(befor_lun), KX_INT(area_capa_h), KX_INT(area_capa_l));
+
+// Always 8193 areas, whatever area_count says.
+KX_RECORD(RGAreaInformation, RGAreaInformationRec,
+          KX_INT(rgnum), KX_INT(lumaxcapa), KX_INT(area_count),
+          KX_RECORDS(area, kx::rec::AreaInfo));
+
+KX_RECORD(LogicalUnit, LogicalUnitRec,
+          KX_INT(luNumber), KX_INT(rgNumber), KX_INT(raid_level), KX_INT(staging), KX_INT(capacity),
+          KX_INT(befor_lun), KX_INT(cachepart_no), KX_INT(pair_cachepart_valid),
+          KX_INT(pair_cachepart_no), KX_INT(current_cachepart_no), KX_INT(stripe),
+          KX_INT(lu_use_type), KX_INT(defaultCTL), KX_INT(currentCTL), KX_INT(status),
+          KX_INT(hostblock), KX_INT(lu_valid), KX_INT(qf_status), KX_INT(correction_status),
+          KX_INT(rg_last_lu), KX_INT(unit_type), KX_INT(unit_type_sub_code));
+
+KX_RECORD(LUReallocInfo, LUReallocInfoRec,
+          KX_INT(lun), KX_INT(lusize), KX_INT(newlun));
+
+KX_CONVERTERS(RaidGroup, RaidGroup, RaidGroupRec)
+KX_CONVERTERS(CreateRgDrive, CreateRgDrive, CreateRgDriveRec)
+KX_CONVERTERS(CreateRaidGroup, CreateRaidGroup, CreateRaidGroupRec)
+KX_WRITER(RgDetail, RgDetailRec)
+KX_WRITER(RgDriveInfo, RgDriveInfoRec)
+KX_WRITER(RaidGroupInformation, RaidGroupInformationRec)
+KX_CONVERTERS(AreaInfo, AreaInfo, AreaInfoRec)
+KX_CONVERTERS(RGAreaInformation, RGAreaInformation, RGAreaInformationRec)
+KX_CONVERTERS(LogicalUnit, LogicalUnit, LogicalUnitRec)
+KX_READER(LUReallocInfo, LUReallocInfo, LUReallocInfoRec)
+
 // ==== end of RAID groups and logical units ====
 
 
