@@ -52,19 +52,21 @@ public final class Bench {
             + " seam (zero fill, 32 guard bytes each side, bookkeeping under a lock), and the double copies"
             + " every record it is handed and then writes the scripted output; \"frame+fake\" is that share.");
         System.out.println();
-        System.out.printf(Locale.ROOT, "%-30s %8s %12s %12s %12s %12s %8s%n", "native", "objects",
-            "median/call", "frame+fake", "conversion", "floor", "ratio");
+        System.out.printf(Locale.ROOT, "%-30s %8s %12s %19s %12s %12s %12s %8s%n", "native", "objects",
+            "median/call", "p10-p90", "frame+fake", "conversion", "floor", "ratio");
 
         for (Case c : cases) {
             Result r = measure(c);
-            System.out.printf(Locale.ROOT, "%-30s %8d %12s %12s %12s %12s %7.0fx%n", c.name(), r.objects,
-                ms(r.nativeNs), ms(r.quietNs), ms(r.nativeNs - r.quietNs), ms(r.floorNs),
+            System.out.printf(Locale.ROOT, "%-30s %8d %12s %19s %12s %12s %12s %7.0fx%n", c.name(), r.objects,
+                ms(r.nativeNs), String.format(Locale.ROOT, "%.2f-%.2f ms", r.p10Ns / 1e6, r.p90Ns / 1e6),
+                ms(r.quietNs), ms(r.nativeNs - r.quietNs), ms(r.floorNs),
                 r.nativeNs / r.floorNs);
         }
         if (skipped != null) System.out.println(skipped);
         System.out.println();
         System.out.println("objects: Java objects in the returned tree (records and arrays), the same for the floor.");
         System.out.println("frame+fake: the same call answered 256 (records allocated, library called, nothing built).");
+        System.out.println("p10-p90: spread of the timed native calls.");
         System.out.println("conversion: median/call minus frame+fake.  ratio: median/call over the floor.");
     }
 
@@ -84,6 +86,8 @@ public final class Bench {
     private static final class Result {
         int objects;
         double nativeNs;
+        double p10Ns;
+        double p90Ns;
         double quietNs;
         double floorNs;
     }
@@ -118,6 +122,8 @@ public final class Bench {
             }
         }
         r.nativeNs = median(nat);
+        r.p10Ns = percentile(nat, 10);
+        r.p90Ns = percentile(nat, 90);
         r.quietNs = median(quiet);
         r.floorNs = median(flo);
         c.script(false);
@@ -140,6 +146,12 @@ public final class Bench {
         Arrays.sort(s);
         int n = s.length;
         return n % 2 == 1 ? s[n / 2] : (s[n / 2 - 1] + s[n / 2]) / 2.0;
+    }
+
+    private static double percentile(long[] v, int p) {
+        long[] s = v.clone();
+        Arrays.sort(s);
+        return s[Math.min(s.length - 1, s.length * p / 100)];
     }
 
     private static String ms(double ns) {
