@@ -53,7 +53,30 @@ public class DiskArrayUtilityJNI {
 
 
     // ---- RAID groups and logical units ----
-
+    public native RaidGroup[] KX_GetRaidGroups(String unitName);
+    public native void KX_RaidGroupAdd(String unitName, RaidGroup rg);
+    public native void KX_RaidGroupExpand(String unitName, RaidGroup rg);
+    public native void KX_RaidGroupDelete(String unitName, KXSessionInfo session, int rgnum);
+    public native void KX_RaidGroupAllDelete(String unitName, KXSessionInfo session);
+    public native void KX_CreateRaidGroup(String unitName, KXSessionInfo session, CreateRaidGroup create);
+    public native RaidGroupInformation KX_GetRaidGroupInformation(String unitName, KXSessionInfo session);
+    public native RGAreaInformation KX_GetRGAreaInformation(String unitName, KXSessionInfo session, int rgnum);
+    public native RgDetail KX_GetRaidGroupCreationCapacity(String unitName, KXSessionInfo session,
+                                                           CreateRaidGroup create);
+    public native LogicalUnit[] KX_GetLogicalUnit(String unitName, KXSessionInfo session);
+    public native LogicalUnit KX_GetLogicalUnit1(String unitName, KXSessionInfo session, int lun);
+    public native int KX_GetLastLogicalUnit(String unitName);
+    public native void KX_LogicalUnitAdd(String unitName, KXSessionInfo session, LogicalUnit lu);
+    public native void KX_LogicalUnitDelete(String unitName);
+    public native void KX_LogicalUnitDeleteAll(String unitName);
+    public native void KX_LogicalUnitDeleteByLUN(String unitName, KXSessionInfo session, int lun);
+    public native void KX_LogicalUnitExpand(String unitName, int a, int b);
+    public native void KX_LogicalUnitChangeStaging(String unitName, KXSessionInfo session, int a, int b);
+    public native void KX_LogicalUnitChangeCtl(String unitName, KXSessionInfo session, int a);
+    public native void KX_LogicalUnitInvalid(String unitName, int lun);
+    public native void KX_LogicalUnitRestore(String unitName, int lun);
+    public native void KX_LogicalUnitRealloc(String unitName, LUReallocInfo realloc);
+    public native int[] KX_BlockToByte(int a, int b, int c);
     // ---- end of RAID groups and logical units ----
 
 

@@ -1,0 +1,57 @@
+package kxbench;
+
+import java.nio.ByteBuffer;
+import java.nio.ByteOrder;
+import kxtest.FakePernix;
+import orvane.str.diskarray.DiskArrayUtilityJNI;
+import orvane.str.diskarray.KXSessionInfo;
+
+/**
+ * One native under measurement: the record the test double serves, the native
+ * call, and the same Java tree built from the same bytes by plain Java code.
+ */
+public abstract class Case {
+    protected static final DiskArrayUtilityJNI JNI = new DiskArrayUtilityJNI();
+    protected static final String UNIT = "bench-unit";
+    protected static final KXSessionInfo SESSION = new KXSessionInfo();
+
+    static {
+        for (int i = 0; i < 32; i++) SESSION.session_id[i] = (byte) (0x40 + i);
+    }
+
+    private final String fn;
+    private final int recordArg;
+    protected final byte[] bytes;
+
+    /** fn: the library function; recordArg: index of the record it fills; size: the record's bytes. */
+    protected Case(String fn, int recordArg, int size) {
+        this.fn = fn;
+        this.recordArg = recordArg;
+        this.bytes = new byte[size];
+        fillRecord(ByteBuffer.wrap(bytes).order(ByteOrder.LITTLE_ENDIAN));
+    }
+
+    public final String name() {
+        return fn;
+    }
+
+    /** Writes a realistic record (what a configured unit reports) into buf. */
+    protected abstract void fillRecord(ByteBuffer buf);
+
+    /** Calls the native; the test double serves the scripted record. */
+    public abstract Object callNative();
+
+    /** The same tree as the native builds, from the same bytes, in plain Java. */
+    public abstract Object buildFloor();
+
+    /** Fresh test double serving the record; quiet: the library answers 256 (no conversion). */
+    public final void script(boolean quiet) {
+        FakePernix.reset();
+        FakePernix.willWrite(fn, recordArg, bytes);
+        if (quiet) FakePernix.willReturn(fn, 256);
+    }
+
+    protected final ByteBuffer le() {
+        return ByteBuffer.wrap(bytes).order(ByteOrder.LITTLE_ENDIAN);
+    }
+}
