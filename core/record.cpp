@@ -29,6 +29,8 @@ int read_elements(JNIEnv* env, jobjectArray arr, const RecordDesc& elem, uint8_t
                   uint32_t capacity, uint32_t stride) {
   auto length = static_cast<uint32_t>(env->GetArrayLength(arr));
   for (uint32_t i = 0; i < std::min(length, capacity); ++i) {
+    // An element reader that failed left its exception pending: stop there.
+    if (pending(env)) return kMarshal;
     LocalRef<jobject> item(env, env->GetObjectArrayElement(arr, static_cast<jsize>(i)));
     if (pending(env)) return kMarshal;
     read_record(env, item.get(), elem, dst + static_cast<size_t>(i) * stride);
@@ -79,6 +81,7 @@ int read_field(JNIEnv* env, jobject obj, const Field& f, void* rec) {
       if (!arr) return kNullRecord;
       auto rows = static_cast<uint32_t>(env->GetArrayLength(arr.get()));
       for (uint32_t r = 0; r < std::min(rows, f.count); ++r) {
+        if (pending(env)) return kMarshal;
         LocalRef<jobjectArray> row(
             env, static_cast<jobjectArray>(env->GetObjectArrayElement(arr.get(), static_cast<jsize>(r))));
         if (pending(env)) return kMarshal;

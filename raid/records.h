@@ -15,47 +15,12 @@ KX_RECORD(RaidGroup, RaidGroupRec,
 KX_RECORD(CreateRgDrive, CreateRgDriveRec,
           KX_INT(unit_no), KX_INT(hdu_no));
 
-namespace kx::raid {
-
-// The drive list of a planned RAID group, read over the Java array's length
-// but never past its 450 slots; a null list leaves the slots empty and a null
-// drive its slot.  A drive that cannot be read leaves its error pending, and
-// the list ends there: no JNI call is made while an error is pending.
-inline int read_create_drives(JNIEnv* env, jobject obj, const Field& f, void* rec) {
-  auto* drives = static_cast<CreateRaidGroupRec*>(rec)->rgdrv;
-  LocalRef<jobjectArray> arr(
-      env, static_cast<jobjectArray>(jni_get_object(env, obj, f.name, rec::CreateRgDrive.array_sig)));
-  if (!arr) return kNullRecord;
-  jsize length = env->GetArrayLength(arr.get());
-  for (jsize i = 0; i < length && i < PERNIX_CREATE_RG_DRIVES; ++i) {
-    if (pending(env)) return kMarshal;
-    LocalRef<jobject> drive(env, env->GetObjectArrayElement(arr.get(), i));
-    if (pending(env)) return kMarshal;
-    read_record(env, drive.get(), rec::CreateRgDrive, &drives[i]);
-  }
-  return kOk;
-}
-
-// All 450 slots, whatever was filled in.
-inline int write_create_drives(JNIEnv* env, jobject obj, const Field& f, const void* rec) {
-  const auto* drives = static_cast<const CreateRaidGroupRec*>(rec)->rgdrv;
-  LocalRef<jobjectArray> arr(env, new_object_array(env, rec::CreateRgDrive.cls, PERNIX_CREATE_RG_DRIVES));
-  if (!arr) return kMarshal;
-  for (jsize i = 0; i < PERNIX_CREATE_RG_DRIVES; ++i) {
-    LocalRef<jobject> drive(env, write_record(env, rec::CreateRgDrive, &drives[i]));
-    if (!drive) return kMarshal;
-    env->SetObjectArrayElement(arr.get(), i, drive.get());
-    if (pending(env)) return kMarshal;
-  }
-  return jni_set_object(env, obj, f.name, rec::CreateRgDrive.array_sig, arr.get());
-}
-
-}  // namespace kx::raid
-
+// The drive list is read over the Java array's length but never past its 450
+// slots, and always written in full.
 KX_RECORD(CreateRaidGroup, CreateRaidGroupRec,
           KX_INT(create_mode), KX_INT(rgnum), KX_INT(level), KX_INT(drive_type), KX_INT(drive_capa),
           KX_INT(parity_hdu_count), KX_INT(parity_count),
-          KX_CUSTOM(rgdrv, kx::raid::read_create_drives, kx::raid::write_create_drives));
+          KX_RECORDS(rgdrv, kx::rec::CreateRgDrive));
 
 KX_RECORD(RgDetail, RgDetailRec,
           KX_INT(valid_index), KX_INT(rgnum), KX_INT(level), KX_INT(start_unit_no),
