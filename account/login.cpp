@@ -31,22 +31,15 @@ KX_NATIVE(jobject, LoginKXAccount, jstring unit, jobject login) {
               Out(rec::KXSessionInfo));
 }
 
-KX_NATIVE(void, LogoutKXAccount, jstring unit, jobject session, jobject logout) {
-  call(env, KX_LogoutKXAccount, Unit(unit), Session(session), In(logout, rec::KXAccountLogout));
-}
+KX_SESSION_SETTER(LogoutKXAccount, KXAccountLogout)
 
 KX_NATIVE(jobject, LoginKXAccountAlertCheck, jstring unit, jint a) {
   return call(env, KX_LoginKXAccountAlertCheck, Unit(unit), a, Out(rec::KXSessionInfo));
 }
 
-KX_NATIVE(void, LogoutKXAccountAlertCheck, jstring unit, jobject session, jobject logout) {
-  call(env, KX_LogoutKXAccountAlertCheck, Unit(unit), Session(session),
-       In(logout, rec::KXAccountLogout));
-}
+KX_SESSION_SETTER(LogoutKXAccountAlertCheck, KXAccountLogout)
 
-KX_NATIVE(void, ForcedLogoutKXAccount, jstring unit, jobject session, jobject info) {
-  call(env, KX_ForcedLogoutKXAccount, Unit(unit), Session(session), In(info, rec::ForcedLogoutInfo));
-}
+KX_SESSION_SETTER(ForcedLogoutKXAccount, ForcedLogoutInfo)
 
 // ---- accounts
 
@@ -64,26 +57,17 @@ KX_NATIVE(void, ChangeAccount, jstring unit, jobject session, jobject base) {
   call(env, KX_ChangeAccount, Unit(unit), Session(session), Secret(base, rec::KXAccountBaseInfo));
 }
 
-KX_NATIVE(void, DeleteAccount, jstring unit, jobject session, jobject del) {
-  call(env, KX_DeleteAccount, Unit(unit), Session(session), In(del, rec::KXAccountDelete));
-}
+KX_SESSION_SETTER(DeleteAccount, KXAccountDelete)
 
 KX_NATIVE(void, ChangeOwnUserPassword, jstring unit, jobject session, jobject pw) {
   call(env, KX_ChangeOwnUserPassword, Unit(unit), Session(session), Secret(pw, rec::OwnUserPassword));
 }
 
-KX_NATIVE(jobject, GetOwnUserPermission, jstring unit, jobject session) {
-  return call(env, KX_GetOwnUserPermission, Unit(unit), Session(session), Out(rec::OwnUserPermission));
-}
+KX_SESSION_GETTER(GetOwnUserPermission, OwnUserPermission)
 
-KX_NATIVE(jobject, GetKXAccountRoleInformation, jstring unit, jobject session) {
-  return call(env, KX_GetKXAccountRoleInformation, Unit(unit), Session(session),
-              Out(rec::KXAccountRoleInformation));
-}
+KX_SESSION_GETTER(GetKXAccountRoleInformation, KXAccountRoleInformation)
 
-KX_NATIVE(jobject, GetAccountOption, jstring unit, jobject session) {
-  return call(env, KX_GetAccountOption, Unit(unit), Session(session), Out(rec::AccountOption));
-}
+KX_SESSION_GETTER(GetAccountOption, AccountOption)
 
 // ---- alert check: its own stored credentials, no unit and no session
 

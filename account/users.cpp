@@ -95,15 +95,9 @@ KX_NATIVE(jint, PasswdCheck, jstring text) {
 
 // ---- user LAN settings
 
-KX_NATIVE(jobject, GetKXUserLANInformation, jstring unit, jobject session) {
-  return call(env, KX_GetKXUserLANInformation, Unit(unit), Session(session),
-              Out(rec::KXUserLANInformation));
-}
+KX_SESSION_GETTER(GetKXUserLANInformation, KXUserLANInformation)
 
-KX_NATIVE(void, SetKXUserLANInformation, jstring unit, jobject session, jobject lan) {
-  call(env, KX_SetKXUserLANInformation, Unit(unit), Session(session),
-       In(lan, rec::KXUserLANInformation));
-}
+KX_SESSION_SETTER(SetKXUserLANInformation, KXUserLANInformation)
 
 KX_NATIVE(jobject, LoadKXUserLANInformation, jstring unit, jobject session, jstring path) {
   return call(env, KX_LoadKXUserLANInformation, Unit(unit), Session(session), Path(path),
@@ -112,23 +106,15 @@ KX_NATIVE(jobject, LoadKXUserLANInformation, jstring unit, jobject session, jstr
 
 // ---- audit log
 
-KX_NATIVE(jobject, GetKXAuditLogInformation, jstring unit, jobject session) {
-  return call(env, KX_GetKXAuditLogInformation, Unit(unit), Session(session),
-              Out(rec::KXAuditLogInformation));
-}
+KX_SESSION_GETTER(GetKXAuditLogInformation, KXAuditLogInformation)
 
-KX_NATIVE(void, SetKXAuditLogInformation, jstring unit, jobject session, jobject info) {
-  call(env, KX_SetKXAuditLogInformation, Unit(unit), Session(session),
-       In(info, rec::KXAuditLogInformation));
-}
+KX_SESSION_SETTER(SetKXAuditLogInformation, KXAuditLogInformation)
 
 KX_NATIVE(void, KXAuditLogExport, jstring unit, jobject session, jstring path) {
   call(env, KX_KXAuditLogExport, Unit(unit), Session(session), Path(path));
 }
 
-KX_NATIVE(void, InitKXAuditLog, jstring unit, jobject session, jobject init) {
-  call(env, KX_InitKXAuditLog, Unit(unit), Session(session), In(init, rec::KXAuditLogInit));
-}
+KX_SESSION_SETTER(InitKXAuditLog, KXAuditLogInit)
 
 // ---- Fibre Channel permission import: no session, no null test (a null
 // unit or path goes as an empty string), no flush

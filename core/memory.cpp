@@ -7,9 +7,10 @@
 #ifdef KX_ALLOC_SEAM
 // Test builds route every record through the test double of the array
 // library, which can fail a chosen allocation, counts blocks and checks guard
-// bytes around each one on release.
-extern "C" void* pernix_seam_alloc(size_t bytes);
-extern "C" void pernix_seam_free(void* block, size_t bytes);
+// bytes around each one on release.  Weak, so that a test build also runs
+// against an array library without the seam (plain calloc and free then).
+extern "C" void* pernix_seam_alloc(size_t bytes) __attribute__((weak));
+extern "C" void pernix_seam_free(void* block, size_t bytes) __attribute__((weak));
 #endif
 
 namespace kx {
@@ -20,10 +21,9 @@ void* allocate(std::ptrdiff_t count, std::size_t size) {
   if (n != 0 && size > SIZE_MAX / n) return nullptr;
   std::size_t bytes = n * size;
 #ifdef KX_ALLOC_SEAM
-  return pernix_seam_alloc(bytes);
-#else
-  return std::calloc(bytes == 0 ? 1 : bytes, 1);
+  if (pernix_seam_alloc != nullptr) return pernix_seam_alloc(bytes);
 #endif
+  return std::calloc(bytes == 0 ? 1 : bytes, 1);
 }
 
 void release(void* block, std::size_t bytes, bool wipe) {
@@ -34,11 +34,10 @@ void release(void* block, std::size_t bytes, bool wipe) {
     for (std::size_t i = 0; i < bytes; ++i) p[i] = 0;
   }
 #ifdef KX_ALLOC_SEAM
-  pernix_seam_free(block, bytes);
-#else
+  if (pernix_seam_free != nullptr) return pernix_seam_free(block, bytes);
+#endif
   (void)bytes;
   std::free(block);
-#endif
 }
 
 }  // namespace kx

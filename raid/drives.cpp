@@ -32,54 +32,27 @@ KX_NATIVE(jobject, DriveReconstructInformation, jstring unit, jobject session, j
               Out(rec::DriveReconstructInformation));
 }
 
-KX_NATIVE(jobject, GetDiskDriveRestoration, jstring unit, jobject session) {
-  return call(env, KX_GetDiskDriveRestoration, Unit(unit), Session(session),
-              Out(rec::DiskDriveRestoration));
-}
+KX_SESSION_GETTER(GetDiskDriveRestoration, DiskDriveRestoration)
 
-KX_NATIVE(void, SetDiskDriveRestoration, jstring unit, jobject session, jobject restoration) {
-  call(env, KX_SetDiskDriveRestoration, Unit(unit), Session(session),
-       In(restoration, rec::DiskDriveRestoration));
-}
+KX_SESSION_SETTER(SetDiskDriveRestoration, DiskDriveRestoration)
 
-KX_NATIVE(jobject, GetSATADriveInformation, jstring unit, jobject session) {
-  return call(env, KX_GetSATADriveInformation, Unit(unit), Session(session),
-              Out(rec::SATADriveInformation));
-}
+KX_SESSION_GETTER(GetSATADriveInformation, SATADriveInformation)
 
-KX_NATIVE(void, SetSATADriveInformation, jstring unit, jobject session, jobject info) {
-  call(env, KX_SetSATADriveInformation, Unit(unit), Session(session),
-       In(info, rec::SATADriveInformation));
-}
+KX_SESSION_SETTER(SetSATADriveInformation, SATADriveInformation)
 
-KX_NATIVE(jobject, GetSATADriveRestoration, jstring unit, jobject session) {
-  return call(env, KX_GetSATADriveRestoration, Unit(unit), Session(session),
-              Out(rec::SATADriveRestoration));
-}
+KX_SESSION_GETTER(GetSATADriveRestoration, SATADriveRestoration)
 
-KX_NATIVE(void, SetSATADriveRestoration, jstring unit, jobject session, jobject restoration) {
-  call(env, KX_SetSATADriveRestoration, Unit(unit), Session(session),
-       In(restoration, rec::SATADriveRestoration));
-}
+KX_SESSION_SETTER(SetSATADriveRestoration, SATADriveRestoration)
 
-KX_NATIVE(jobject, GetDriveResponseDiag, jstring unit, jobject session) {
-  return call(env, KX_GetDriveResponseDiag, Unit(unit), Session(session),
-              Out(rec::DriveResponseDiag));
-}
+KX_SESSION_GETTER(GetDriveResponseDiag, DriveResponseDiag)
 
-KX_NATIVE(void, SetDriveResponseDiag, jstring unit, jobject session, jobject diag) {
-  call(env, KX_SetDriveResponseDiag, Unit(unit), Session(session),
-       In(diag, rec::DriveResponseDiag));
-}
+KX_SESSION_SETTER(SetDriveResponseDiag, DriveResponseDiag)
 
 KX_NATIVE(void, SetDriveMode, jstring unit, jobject session, jint a, jint b, jint c) {
   call(env, KX_SetDriveMode, Unit(unit), Session(session), a, b, c);
 }
 
-KX_NATIVE(jobject, GetSpinDownUpInformation, jstring unit, jobject session) {
-  return call(env, KX_GetSpinDownUpInformation, Unit(unit), Session(session),
-              Out(rec::SpinDownUpInformation));
-}
+KX_SESSION_GETTER(GetSpinDownUpInformation, SpinDownUpInformation)
 
 KX_NATIVE(void, SpinDownDriveByRG, jstring unit, jobject session, jint rgnum) {
   call(env, KX_SpinDownDriveByRG, Unit(unit), Session(session), rgnum);

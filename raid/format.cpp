@@ -42,31 +42,14 @@ KX_NATIVE(jobject, GetFormatStatusList, jstring unit) {
   return call(env, KX_GetFormatStatusList, Unit(unit), Out(rec::FormatStatusList));
 }
 
-KX_NATIVE(jobject, GetQuickFormatOption, jstring unit, jobject session) {
-  return call(env, KX_GetQuickFormatOption, Unit(unit), Session(session),
-              Out(rec::QuickFormatOption));
-}
+KX_SESSION_GETTER(GetQuickFormatOption, QuickFormatOption)
 
-KX_NATIVE(void, SetQuickFormatOption, jstring unit, jobject session, jobject option) {
-  call(env, KX_SetQuickFormatOption, Unit(unit), Session(session),
-       In(option, rec::QuickFormatOption));
-}
+KX_SESSION_SETTER(SetQuickFormatOption, QuickFormatOption)
 
-KX_NATIVE(void, EntryQuickFormatList, jstring unit, jobject session, jobject list) {
-  call(env, KX_EntryQuickFormatList, Unit(unit), Session(session), In(list, rec::QuickFormatList));
-}
+KX_SESSION_SETTER(EntryQuickFormatList, QuickFormatList)
 
-KX_NATIVE(jobject, GetQuickFormatStatusList, jstring unit, jobject session) {
-  return call(env, KX_GetQuickFormatStatusList, Unit(unit), Session(session),
-              Out(rec::QuickFormatStatusList));
-}
+KX_SESSION_GETTER(GetQuickFormatStatusList, QuickFormatStatusList)
 
-KX_NATIVE(void, EntryParityCorrectionList, jstring unit, jobject session, jobject list) {
-  call(env, KX_EntryParityCorrectionList, Unit(unit), Session(session),
-       In(list, rec::ParityCorrectionList));
-}
+KX_SESSION_SETTER(EntryParityCorrectionList, ParityCorrectionList)
 
-KX_NATIVE(jobject, GetParityCorrectionStatusList, jstring unit, jobject session) {
-  return call(env, KX_GetParityCorrectionStatusList, Unit(unit), Session(session),
-              Out(rec::ParityCorrectionStatusList));
-}
+KX_SESSION_GETTER(GetParityCorrectionStatusList, ParityCorrectionStatusList)

@@ -20,9 +20,7 @@ KX_NATIVE(jint, GetLastLogicalUnit, jstring unit) {
   return call(env, KX_GetLastLogicalUnit, Unit(unit), IntOut{});
 }
 
-KX_NATIVE(void, LogicalUnitAdd, jstring unit, jobject session, jobject lu) {
-  call(env, KX_LogicalUnitAdd, Unit(unit), Session(session), In(lu, rec::LogicalUnit));
-}
+KX_SESSION_SETTER(LogicalUnitAdd, LogicalUnit)
 
 KX_NATIVE(void, LogicalUnitDelete, jstring unit) {
   call(env, KX_LogicalUnitDelete, Unit(unit));

@@ -26,14 +26,9 @@ KX_NATIVE(void, RaidGroupAllDelete, jstring unit, jobject session) {
   call(env, KX_RaidGroupAllDelete, Unit(unit), Session(session));
 }
 
-KX_NATIVE(void, CreateRaidGroup, jstring unit, jobject session, jobject create) {
-  call(env, KX_CreateRaidGroup, Unit(unit), Session(session), In(create, rec::CreateRaidGroup));
-}
+KX_SESSION_SETTER(CreateRaidGroup, CreateRaidGroup)
 
-KX_NATIVE(jobject, GetRaidGroupInformation, jstring unit, jobject session) {
-  return call(env, KX_GetRaidGroupInformation, Unit(unit), Session(session),
-              Out(rec::RaidGroupInformation));
-}
+KX_SESSION_GETTER(GetRaidGroupInformation, RaidGroupInformation)
 
 KX_NATIVE(jobject, GetRGAreaInformation, jstring unit, jobject session, jint rgnum) {
   return call(env, KX_GetRGAreaInformation, Unit(unit), Session(session), rgnum,

@@ -19,6 +19,20 @@ namespace kx {
 inline In<KXSessionInfoRec> Session(jobject session) { return {session, rec::KXSessionInfo}; }
 }  // namespace kx
 
+// The two commonest natives: KX_<Name>(unit, session, record) that fills one
+// record returned as a new Java object of `Class`, and one that hands over a
+// record read from a Java object of `Class`.
+#define KX_SESSION_GETTER(Name, Class)                                                      \
+  KX_NATIVE(jobject, Name, jstring unit, jobject session) {                                 \
+    return ::kx::call(env, KX_##Name, ::kx::Unit(unit), ::kx::Session(session),             \
+                      ::kx::Out(::kx::rec::Class));                                         \
+  }
+#define KX_SESSION_SETTER(Name, Class)                                                      \
+  KX_NATIVE(void, Name, jstring unit, jobject session, jobject record) {                    \
+    ::kx::call(env, KX_##Name, ::kx::Unit(unit), ::kx::Session(session),                    \
+               ::kx::In(record, ::kx::rec::Class));                                         \
+  }
+
 // ---- unit registry and discovery
 
 KX_RECORD(KXUnitParam, KXUnitParamRec,
