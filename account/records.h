@@ -51,11 +51,8 @@ KX_RECORD(OwnUserPermission, OwnUserPermissionRec,
           KX_INT(role),
           KX_INTS(original_operation_auth));
 
-// The name is the role's only field: a name that cannot be set fails the
-// role, so that a table of roles is never filled while a Java exception is
-// pending (the table then fails as a whole, which it would do anyway).
 KX_RECORD(KXAccountRole, KXAccountRoleRec,
-          KX_CHECKED(KX_STRING(role_name)));
+          KX_STRING(role_name));
 
 // Always 32 roles; role_valid_index is delivered beside them.
 KX_RECORD(KXAccountRoleInformation, KXAccountRoleInformationRec,
@@ -121,11 +118,9 @@ KX_RECORD(KXUserLANInformation, KXUserLANInformationRec,
           KX_INT(last_set_mode),
           KX_INT(logout_instruction));
 
-// The address is the last field: as for the role name, an address that
-// cannot be set fails the server rather than leave an exception pending.
 KX_RECORD(KXAuditLogSyslogServer, KXAuditLogSyslogServerRec,
           KX_INT(server_used),
-          KX_CHECKED(KX_STRING(ip_address)));
+          KX_STRING(ip_address));
 
 // Always two syslog servers.
 KX_RECORD(KXAuditLogSyslogServerInfo, KXAuditLogSyslogServerInfoRec,
