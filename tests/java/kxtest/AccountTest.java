@@ -6,7 +6,7 @@ import orvane.str.diskarray.*;
 import org.junit.Test;
 
 public class AccountTest extends BridgeTest {
-    static final String UNIT = "array-07";
+    static final String UNIT = "array-07-" + repeat('u', 80); // cut to 64 bytes in its 65-byte buffer
     static final KXSessionInfo S = SessionTest.session(5);
     static final byte[] TOKEN = SessionTest.session(0xC0).session_id;
 

@@ -7,8 +7,9 @@ import org.junit.Test;
 
 /** User LAN settings and the audit log. */
 public class AuditLogTest extends BridgeTest {
-    static final String UNIT = "array-09";
+    static final String UNIT = "array-09-" + repeat('u', 80); // cut to 64 bytes in its 65-byte buffer
     static final KXSessionInfo S = SessionTest.session(11);
+    static final String FILE = "/tmp/" + repeat('f', 100);
 
     static Rec lanRecord() {
         Rec r = Rec.of(252).i32(240, 5).i32(244, 6).i32(248, 7);
@@ -54,11 +55,11 @@ public class AuditLogTest extends BridgeTest {
         assertArrayEquals(lanRecord().bytes(), FakePernix.arg("KX_SetKXUserLANInformation", 0, 2));
 
         FakePernix.willWrite("KX_LoadKXUserLANInformation", 3, lanRecord().bytes());
-        assertEquals(2, jni.KX_LoadKXUserLANInformation(UNIT, S, "/tmp/lan.cfg").ctl.length);
+        assertEquals(2, jni.KX_LoadKXUserLANInformation(UNIT, S, FILE).ctl.length);
         assertArrayEquals(S.session_id, FakePernix.arg("KX_LoadKXUserLANInformation", 0, 1));
-        assertCString("/tmp/lan.cfg", 1024, FakePernix.arg("KX_LoadKXUserLANInformation", 0, 2));
+        assertCString(FILE, 1024, FakePernix.arg("KX_LoadKXUserLANInformation", 0, 2));
         assertEquals(258, code(() -> jni.KX_LoadKXUserLANInformation(UNIT, S, null)));
-        assertEquals(258, code(() -> jni.KX_LoadKXUserLANInformation(null, S, "/tmp/lan.cfg")));
+        assertEquals(258, code(() -> jni.KX_LoadKXUserLANInformation(null, S, FILE)));
         assertEquals(1, FakePernix.calls("KX_LoadKXUserLANInformation"));
     }
 
@@ -89,9 +90,10 @@ public class AuditLogTest extends BridgeTest {
 
     @Test
     public void auditLogExportAndInit() throws Throwable {
-        jni.KX_KXAuditLogExport(UNIT, S, "/var/log/audit.out");
+        jni.KX_KXAuditLogExport(UNIT, S, FILE);
+        assertCString(UNIT, 65, FakePernix.arg("KX_KXAuditLogExport", 0, 0));
         assertArrayEquals(S.session_id, FakePernix.arg("KX_KXAuditLogExport", 0, 1));
-        assertCString("/var/log/audit.out", 1024, FakePernix.arg("KX_KXAuditLogExport", 0, 2));
+        assertCString(FILE, 1024, FakePernix.arg("KX_KXAuditLogExport", 0, 2));
         assertEquals(258, code(() -> jni.KX_KXAuditLogExport(UNIT, S, null)));
 
         KXAuditLogInit init = new KXAuditLogInit();

@@ -67,13 +67,13 @@ public class UserTest extends BridgeTest {
                 .u8(41, 0xFF).u8(296, 0x80).str(297, repeat('n', 16));
         FakePernix.willWrite("KX_FibreInfoPermissionImport", 5, perms.bytes());
         FakePernix.willWriteInt("KX_FibreInfoPermissionImport", 4, 2);
-        FibreInformationPermission[] got = jni.KX_FibreInfoPermissionImport("u1", PATH, 6, -6);
+        FibreInformationPermission[] got = jni.KX_FibreInfoPermissionImport(repeat('u', 70), PATH, 6, -6);
         assertEquals(2, got.length);
         assertArrayEquals(new String[] {"2000000000000001", "port0", "0x0", repeat('n', 16)},
                 new String[] {got[0].node_name, got[0].port_name, got[0].n_port_id, got[1].node_name});
         assertEquals((byte) 0xFF, got[0].lun_security_bitmap[0]);
         assertEquals((byte) 0x80, got[0].lun_security_bitmap[255]);
-        assertCString("u1", 65, FakePernix.arg("KX_FibreInfoPermissionImport", 0, 0));
+        assertCString(repeat('u', 70), 65, FakePernix.arg("KX_FibreInfoPermissionImport", 0, 0));
         assertCString(PATH, 1024, FakePernix.arg("KX_FibreInfoPermissionImport", 0, 1));
         assertEquals(6, FakePernix.intArg("KX_FibreInfoPermissionImport", 0, 2));
         assertEquals(-6, FakePernix.intArg("KX_FibreInfoPermissionImport", 0, 3));
