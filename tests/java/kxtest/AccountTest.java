@@ -95,14 +95,10 @@ public class AccountTest extends BridgeTest {
 
     @Test
     public void accountListAlwaysHas21Accounts() {
-        Rec r = Rec.of(11428).i32(0, 3);
-        for (int k = 0; k < 3; k++) {
-            int o = 4 + k * 544;
-            r.str(o, "user" + k).i32(o + 260, k).str(o + 264, "pw" + k).i32(o + 524, 10 + k)
-                    .i32(o + 528, 20 + k).i32(o + 532, 30 + k).i32(o + 536, 40 + k).i32(o + 540, -50 - k);
-        }
-        r.str(4 + 20 * 544, repeat('z', 256));
-        FakePernix.willWrite("KX_GetAccountInformation", 2, r.bytes());
+        int o = 4 + 2 * 544; // the third account
+        FakePernix.willWrite("KX_GetAccountInformation", 2, Rec.of(11428).i32(0, 3).str(o, "user2").i32(o + 260, 2)
+                .str(o + 264, "pw2").i32(o + 524, 12).i32(o + 528, 22).i32(o + 532, 32).i32(o + 536, 42)
+                .i32(o + 540, -52).str(4 + 20 * 544, repeat('z', 256)).bytes());
 
         KXAccountInfoList list = jni.KX_GetAccountInformation(UNIT, S);
         assertEquals(3, list.regist_account_count);
