@@ -10,7 +10,6 @@ import org.junit.Test;
 public class UnitFailingConversionTest extends BridgeTest {
     @Test
     public void unitTableStopsAtTheFirstRecordLeftWithAnErrorPending() {
-        KXUnitParam.made = 0;
         Throwable t = thrown(() -> jni.KX_GetUnitParamTable(4));
         assertEquals("the JVM's own error, not a DiskArrayException", NoSuchFieldError.class, t.getClass());
         assertEquals("records after the failing one are not converted", 1, KXUnitParam.made);
@@ -18,15 +17,11 @@ public class UnitFailingConversionTest extends BridgeTest {
 
     @Test
     public void anElementOrTheConnectorTableThatCannotBeBuiltFailsTheWholeCondition() {
-        CacheStatus.made = 0;
         CacheStatus.failAt = 40;  // element 7 of cache2
         assertEquals(2817, code(() -> jni.KX_GetUnitCondition("u", null, 0)));
         assertEquals(40, CacheStatus.made);
-
-        CacheStatus.made = 0;
-        CacheStatus.failAt = 0;
-        assertEquals("the connector field is not a byte[][][]", 2817,
-                code(() -> jni.KX_GetUnitCondition("u", null, 0)));
+        CacheStatus.made = CacheStatus.failAt = 0;
+        assertEquals("connector is no byte[][][]", 2817, code(() -> jni.KX_GetUnitCondition("u", null, 0)));
         assertEquals("both cache arrays were built first", 64, CacheStatus.made);
     }
 }
