@@ -46,7 +46,7 @@ public class UnitConditionTest extends BridgeTest {
         Rec r = Rec.of(1536);
         for (int i = 0; i < 1536; i++) r.u8(i, b(i));
         for (Object[] t : TEXTS) r.put((int) t[1], cstr((String) t[3], (int) t[2]));
-        r.str(742, "FLUSH-1").i32(20, 32).i32(928, 0x7FFFFFFF).i32(932, 3).i32(1532, 2);
+        r.str(742, "FLUSH-1").i32(20, 5).i32(928, 0x7FFFFFFF).i32(932, 3).i32(1532, 2);
         for (int i = 0; i < 64; i++) r.i32(24 + 8 * i, 1000 + i).i32(28 + 8 * i, -i);
         r.u8(536, 0xFF).u8(733, 0xFF).u8(734, 0x80).u8(845, 0xFF);  // ps[0] and the one-byte codes
         for (int n = 0; n < 4; n++) {
@@ -61,7 +61,7 @@ public class UnitConditionTest extends BridgeTest {
     }
 
     @Test
-    public void everyFieldIsReadFromItsOffset() throws Exception {
+    public void everyFieldIsReadFromItsOffsetAndEveryArrayBuiltAtFullCapacity() throws Throwable {
         FakePernix.willWrite("KX_GetUnitCondition", 3, condition());
         UnitCondition c = jni.KX_GetUnitCondition(repeat('x', 70), SessionTest.session(3), -42);
         assertCString(repeat('x', 70), 65, FakePernix.arg("KX_GetUnitCondition", 0, 0));
@@ -76,8 +76,10 @@ public class UnitConditionTest extends BridgeTest {
         int[] ps = table(536, 62);
         ps[0] = -1;
         assertArrayEquals(ps, c.ps);
-        assertArrayEquals(new int[] {32, -1, -128, 255, 0x7FFFFFFF, 3, 2}, new int[] {c.max_slot, c.device_type,
+        assertArrayEquals(new int[] {5, -1, -128, 255, 0x7FFFFFFF, 3, 2}, new int[] {c.max_slot, c.device_type,
             c.device_type_KXM_sub_code, c.controller_condition, c.add_info_index, c.unit_count, c.ctl_num});
+        assertArrayEquals("whatever the counts say", new int[] {32, 32, 4, 4},
+                new int[] {c.cache.length, c.cache2.length, c.nnc_parts.length, c.nnc_parts[3].ext_slot.length});
         for (int i = 0; i < 32; i++) {
             assertArrayEquals(new int[] {1000 + i, -i, 1032 + i, -32 - i},
                     new int[] {c.cache[i].option, c.cache[i].condition, c.cache2[i].option, c.cache2[i].condition});
@@ -97,14 +99,6 @@ public class UnitConditionTest extends BridgeTest {
                         concat(new int[] {e.valid_index, e.card_state, e.card_type}, e.connector_state));
             }
         }
-    }
-
-    @Test
-    public void arraysAreBuiltAtFullCapacityWhateverTheCountsSay() throws Throwable {
-        UnitCondition c = jni.KX_GetUnitCondition("unit", null, 0);
-        assertArrayEquals("a null session sends an empty token", new byte[32], FakePernix.arg("KX_GetUnitCondition", 0, 1));
-        assertArrayEquals(new int[] {32, 32, 4, 4},
-                new int[] {c.cache.length, c.cache2.length, c.nnc_parts.length, c.nnc_parts[3].ext_slot.length});
         assertEachAllocationFailureReported(() -> jni.KX_GetUnitCondition("u", SessionTest.session(0), 1));
     }
 }

@@ -12,12 +12,9 @@ import org.junit.Test;
 public class UnitRegistryTest extends BridgeTest {
     static KXUnitParam unit() {
         KXUnitParam u = new KXUnitParam();
-        u.unit_name = repeat('u', 70);
-        u.group_name = "group-name-16chr-extra";
+        u.unit_name = repeat('u', 70); u.group_name = "group-name-16chr-extra";
         u.connect_type = -1; u.kx_type = 0x1C8; u.device_type = 200; u.unit_conf = 0x7F; u.alert = 0x80;
-        u.ctl0 = "10.0.0.1";
-        u.ctl1 = repeat('c', 90);
-        u.serial = "SN12345678";
+        u.ctl0 = "10.0.0.1"; u.ctl1 = repeat('c', 90); u.serial = "SN12345678";
         return u;
     }
 
@@ -29,7 +26,7 @@ public class UnitRegistryTest extends BridgeTest {
             .bytes();
 
     @Test
-    public void addChangeDeleteHandNameAndRecordInTheLibrarysOrder() {
+    public void addChangeDeleteHandNameAndRecordInTheLibrarysOrder() throws Throwable {
         jni.KX_UnitAdd(unit());
         jni.KX_UnitAddByIP(unit());
         jni.KX_UnitChange(repeat('n', 1100), unit());
@@ -44,6 +41,7 @@ public class UnitRegistryTest extends BridgeTest {
         assertArrayEquals(UNIT, FakePernix.arg("KX_UnitChangeByIP", 0, 1));
         assertCString(repeat('d', 70), 65, FakePernix.arg("KX_UnitDelete", 0, 0));
         assertArrayEquals(new byte[256], FakePernix.arg("KX_UnitAdd", 1, 0));
+        assertEachAllocationFailureReported(() -> jni.KX_UnitChangeByIP("u", unit()));
     }
 
     @Test
@@ -62,17 +60,14 @@ public class UnitRegistryTest extends BridgeTest {
     }
 
     @Test
-    public void unitCountIsMinusOneWheneverTheLibraryFails() {
+    public void countAndTableHaveTheirOwnFailureValues() {
         FakePernix.willWriteInt("KX_GetUnitCount", 0, 17);
         assertEquals(17, jni.KX_GetUnitCount());
         FakePernix.willReturn("KX_GetUnitCount", 256);
-        assertEquals(-1, jni.KX_GetUnitCount());
+        assertEquals("-1 whenever the library fails", -1, jni.KX_GetUnitCount());
         FakePernix.willReturn("KX_GetUnitCount", 0x1234);
         assertEquals(0x1234, code(() -> jni.KX_GetUnitCount()));
-    }
 
-    @Test
-    public void unitTableConvertsEveryRecordAtItsPlace() {
         Rec table = Rec.of(3 * 256);
         for (int i = 0; i < 3; i++) table.str(256 * i, "unit-" + i).u8(256 * i + 84, 0xF0 + i);
         FakePernix.willWrite("KX_GetUnitParamTable", 1, table.bytes());
@@ -93,12 +88,10 @@ public class UnitRegistryTest extends BridgeTest {
         assertEquals(0, FakePernix.calls("KX_GetUnitParamTable"));
     }
 
-
     @Test
-    public void discoveryHandsTheEntryAndZeroExtendsTheAnswer() {
+    public void discoveryHandsTheEntryAndZeroExtendsTheAnswer() throws Throwable {
         DiscoverEntry e = new DiscoverEntry();
-        e.connect_type = 300;
-        e.ip_dev = repeat('i', 100);
+        e.connect_type = 300; e.ip_dev = repeat('i', 100);
         FakePernix.willWrite("KX_DiscoverUnitInformation", 1, Rec.of(94)
                 .u8(0, 0xFF).str(1, "10.1.2.3").u8(81, 0x80).u8(82, 0xC8).u8(83, 0x7F).u8(84, 1)
                 .str(85, "SER-0001").bytes());
@@ -112,14 +105,8 @@ public class UnitRegistryTest extends BridgeTest {
         FakePernix.willWrite("KX_DiscoverUnitInformationEx", 1, Rec.of(94).u8(84, 0xFE).bytes());
         assertEquals(254, jni.KX_DiscoverUnitInformationEx(e).ctlno);
         assertArrayEquals(entry, FakePernix.arg("KX_DiscoverUnitInformationEx", 0, 0));
-        assertEquals(1, FakePernix.calls("KX_DiscoverUnitInformation"));
         jni.KX_DiscoverUnitInformationEx(null);  // no null test of the entry
         assertArrayEquals(new byte[81], FakePernix.arg("KX_DiscoverUnitInformationEx", 1, 0));
-    }
-
-    @Test
-    public void everyAllocationFailureIsReported() throws Throwable {
-        assertEachAllocationFailureReported(() -> jni.KX_UnitChangeByIP("u", unit()));
-        assertEachAllocationFailureReported(() -> jni.KX_DiscoverUnitInformation(new DiscoverEntry()));
+        assertEachAllocationFailureReported(() -> jni.KX_DiscoverUnitInformation(e));
     }
 }
