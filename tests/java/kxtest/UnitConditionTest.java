@@ -29,7 +29,7 @@ public class UnitConditionTest extends BridgeTest {
         return java.util.Arrays.stream(parts).flatMapToInt(java.util.Arrays::stream).toArray();
     }
 
-    static final Object[][] TABLES = {{"fan", 598, 93}, {"ac", 691, 2}, {"batt", 693, 4},
+    static final Object[][] TABLES = {{"ps", 536, 62}, {"fan", 598, 93}, {"ac", 691, 2}, {"batt", 693, 4},
         {"batt_bk", 697, 2}, {"optionBoard_2port", 699, 2}, {"ctl0_port", 701, 4}, {"ctl1_port", 705, 4},
         {"ctl0_port_type", 709, 4}, {"ctl1_port_type", 713, 4}, {"enclosure", 846, 62}, {"loop", 908, 8},
         {"unit_type", 936, 31}, {"unit_type_sub_code", 967, 31}, {"unit_kind", 998, 31}, {"nnc", 1029, 4},
@@ -48,7 +48,7 @@ public class UnitConditionTest extends BridgeTest {
         for (Object[] t : TEXTS) r.put((int) t[1], cstr((String) t[3], (int) t[2]));
         r.str(742, "FLUSH-1").i32(20, 5).i32(928, 0x7FFFFFFF).i32(932, 3).i32(1532, 2);
         for (int i = 0; i < 64; i++) r.i32(24 + 8 * i, 1000 + i).i32(28 + 8 * i, -i);
-        r.u8(536, 0xFF).u8(733, 0xFF).u8(734, 0x80).u8(845, 0xFF);  // ps[0] and the one-byte codes
+        r.u8(733, 0xFF).u8(734, 0x80).u8(845, 0xFF);  // the one-byte codes
         for (int n = 0; n < 4; n++) {
             int base = 1036 + 92 * n;
             r.i32(base, 10 + n).u8(base + 21, 0xF0 + n).u8(base + 88, 0xE0 + n);
@@ -73,9 +73,6 @@ public class UnitConditionTest extends BridgeTest {
         for (Object[] t : TABLES) {
             assertArrayEquals((String) t[0], table((int) t[1], (int) t[2]), (int[]) field(c, (String) t[0]));
         }
-        int[] ps = table(536, 62);
-        ps[0] = -1;
-        assertArrayEquals(ps, c.ps);
         assertArrayEquals(new int[] {5, -1, -128, 255, 0x7FFFFFFF, 3, 2}, new int[] {c.max_slot, c.device_type,
             c.device_type_KXM_sub_code, c.controller_condition, c.add_info_index, c.unit_count, c.ctl_num});
         assertArrayEquals("whatever the counts say", new int[] {32, 32, 4, 4},
