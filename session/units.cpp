@@ -49,7 +49,9 @@ KX_NATIVE(jobjectArray, GetUnitParamTable, jint count) {
   if (rc == kOk) {
     for (jsize i = 0; i < count; ++i) {
       LocalRef<jobject> unit(env, make_java_KXUnitParam(env, &params[static_cast<size_t>(i)]));
-      if (!unit) break;
+      // A record whose unchecked field failed comes back with the JVM's error
+      // pending: it cannot be stored, so it ends the array like a null one.
+      if (!unit || pending(env)) break;
       env->SetObjectArrayElement(units.get(), i, unit.get());
     }
   }

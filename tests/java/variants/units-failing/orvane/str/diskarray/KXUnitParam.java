@@ -1,8 +1,7 @@
 package orvane.str.diskarray;
 
-/** A unit record whose failAt'th construction throws. */
+/** A unit record whose serial is not a String: the last field cannot be set. */
 public class KXUnitParam {
-    public static int failAt;
     public static int made;
 
     public String unit_name;
@@ -14,9 +13,9 @@ public class KXUnitParam {
     public int alert;
     public String ctl0;
     public String ctl1;
-    public String serial;
+    public int serial;
 
     public KXUnitParam() {
-        if (++made == failAt) throw new IllegalStateException("unit record " + made);
+        ++made;
     }
 }

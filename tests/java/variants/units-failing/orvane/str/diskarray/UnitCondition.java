@@ -1,6 +1,6 @@
 package orvane.str.diskarray;
 
-/** A unit condition whose connector field has the wrong type. */
+/** A unit condition whose connector field has the wrong type (the fields after it are never reached). */
 public class UnitCondition {
     public String micro;
     public String micro_pair;
@@ -18,27 +18,4 @@ public class UnitCondition {
     public int[] ctl0_port_type;
     public int[] ctl1_port_type;
     public int[][][] connector;  // not the byte table the bridge builds
-    public int device_type;
-    public int device_type_KXM_sub_code;
-    public String ctl0_flush;
-    public String ctl1_flush;
-    public String ctl0_ip;
-    public String ctl1_ip;
-    public String ctl0_subnet;
-    public String ctl1_subnet;
-    public String ctl0_gateway;
-    public String ctl1_gateway;
-    public int controller_condition;
-    public int[] enclosure;
-    public int[] loop;
-    public String serial;
-    public int add_info_index;
-    public int unit_count;
-    public int[] unit_type;
-    public int[] unit_type_sub_code;
-    public int[] unit_kind;
-    public int[] nnc;
-    public NNCPartsStatus[] nnc_parts;
-    public int[] function_revision;
-    public int ctl_num;
 }
