@@ -18,8 +18,8 @@ struct ImportCount {
 // The permission table an import fills, returned as an array of exactly as
 // many elements as the library counted.  Only the 128 the table holds are
 // converted; elements past them stay null, as does any element that cannot
-// be built.  A negative count is treated as an array that could not be made:
-// null, with nothing reported.
+// be built.  A negative count cannot make an array: the JVM's
+// NegativeArraySizeException reaches the caller.
 struct ImportedPermissions {
   explicit ImportedPermissions(const int& n) : count(n) {}
 
@@ -33,7 +33,6 @@ struct ImportedPermissions {
   }
   FibreInformationPermissionRec* arg() { return table.get(); }
   jobjectArray convert(JNIEnv* env, int&) {
-    if (count < 0) return nullptr;
     LocalRef<jobjectArray> arr(env, new_object_array(env, rec::FibreInformationPermission.cls, count));
     if (!arr) return nullptr;
     for (int i = 0; i < std::min(count, static_cast<int>(PERNIX_MAX_PERMISSIONS)); ++i) {

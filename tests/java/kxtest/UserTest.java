@@ -90,9 +90,10 @@ public class UserTest extends BridgeTest {
         assertEquals(200, got.length);
         assertNotNull(got[127]);
         assertNull(got[128]);
-        // a negative count gives no array and no report
+        // a negative count cannot make the array: the JVM says so
         FakePernix.willWriteInt("KX_FibreInfoPermissionImport", 4, -3);
-        assertNull(jni.KX_FibreInfoPermissionImport("u", PATH, 0, 0));
+        assertEquals(NegativeArraySizeException.class,
+                thrown(() -> jni.KX_FibreInfoPermissionImport("u", PATH, 0, 0)).getClass());
 
         assertEachAllocationFailureReported(() -> jni.KX_FibreInfoPermissionImport("u", PATH, 0, 0));
     }
