@@ -3,19 +3,11 @@ package kxtest;
 import static org.junit.Assert.assertArrayEquals;
 import static org.junit.Assert.assertEquals;
 import static org.junit.Assert.assertNull;
-import static org.junit.Assert.assertTrue;
 
-import orvane.str.diskarray.AreaInfo;
-import orvane.str.diskarray.CreateRaidGroup;
-import orvane.str.diskarray.CreateRgDrive;
-import orvane.str.diskarray.KXSessionInfo;
-import orvane.str.diskarray.RGAreaInformation;
-import orvane.str.diskarray.RaidGroup;
-import orvane.str.diskarray.RaidGroupInformation;
-import orvane.str.diskarray.RgDetail;
-import orvane.str.diskarray.RgDriveInfo;
+import orvane.str.diskarray.*;
 import org.junit.Test;
 
+/** RAID groups; also the record helpers of the LU, format and drive tests. */
 public class RaidGroupTest extends BridgeTest {
     static final String[] RAID_GROUP = {"rgnum", "level", "port", "row", "width", "depth", "minimum_capa",
         "lastLBASet", "lastLBA", "rest_h", "rest", "lumaxcapa", "unit_type", "unit_type_sub_code"};
@@ -27,11 +19,7 @@ public class RaidGroupTest extends BridgeTest {
     static final String[] RG_DRIVE_INFO = {"valid_index", "next_unit_no", "next_hdu_no", "paritygroup_no"};
     static final String[] AREA_INFO = {"areakind", "lun", "befor_lun", "area_capa_h", "area_capa_l"};
 
-    static KXSessionInfo session(int seed) {
-        KXSessionInfo s = new KXSessionInfo();
-        for (int i = 0; i < 32; i++) s.session_id[i] = (byte) (seed + i);
-        return s;
-    }
+    static final KXSessionInfo S = SessionTest.session(9);
 
     /** A value that differs per record and per field, negative ones included. */
     static int value(int record, int field) {
@@ -54,12 +42,7 @@ public class RaidGroupTest extends BridgeTest {
         return rec;
     }
 
-    /** Checks that rec holds value(seed, i) at off + 4i. */
-    static void assertInts(Rec rec, int off, int seed, String... names) {
-        for (int i = 0; i < names.length; i++) assertEquals(names[i], value(seed, i), rec.i32(off + 4 * i));
-    }
-
-    /** Checks that the int fields of obj hold value(seed, i). */
+    /** Asserts that the int fields of obj hold value(seed, i). */
     static void assertFields(Object obj, int seed, String... names) {
         try {
             for (int i = 0; i < names.length; i++)
@@ -80,191 +63,177 @@ public class RaidGroupTest extends BridgeTest {
         return c;
     }
 
-    @Test
-    public void raidGroupListAlwaysHoldsNinetyGroups() {
-        Rec list = Rec.of(90 * 56);
-        for (int r = 0; r < 90; r += 89) put(list, r * 56, r, RAID_GROUP);
-        put(list, 2 * 56, 2, RAID_GROUP);
-        FakePernix.willWrite("KX_GetRaidGroups", 1, list.bytes());
+    interface UnitCall {
+        void run(String unit) throws Throwable;
+    }
 
+    static Object[] row(String fn, UnitCall call, Object... args) {
+        Object[] r = new Object[args.length + 2];
+        r[0] = fn;
+        r[1] = call;
+        System.arraycopy(args, 0, r, 2, args.length);
+        return r;
+    }
+
+    /**
+     * Every native of the RAID, LU, format and drive families but KX_BlockToByte: its library
+     * function, a call, and what follows the unit name in the library call (S for the session,
+     * ints by value; records are checked by the tests of their own).
+     */
+    Object[][] natives() {
+        return new Object[][] {
+            row("KX_GetRaidGroups", u -> jni.KX_GetRaidGroups(u)),
+            row("KX_RaidGroupAdd", u -> jni.KX_RaidGroupAdd(u, new RaidGroup())),
+            row("KX_RaidGroupExpand", u -> jni.KX_RaidGroupExpand(u, new RaidGroup())),
+            row("KX_RaidGroupDelete", u -> jni.KX_RaidGroupDelete(u, S, -3), S, -3),
+            row("KX_RaidGroupAllDelete", u -> jni.KX_RaidGroupAllDelete(u, S), S),
+            row("KX_CreateRaidGroup", u -> jni.KX_CreateRaidGroup(u, S, create(1)), S),
+            row("KX_GetRaidGroupInformation", u -> jni.KX_GetRaidGroupInformation(u, S), S),
+            row("KX_GetRGAreaInformation", u -> jni.KX_GetRGAreaInformation(u, S, 89), S, 89),
+            row("KX_GetRaidGroupCreationCapacity", u -> jni.KX_GetRaidGroupCreationCapacity(u, S, create(1)), S),
+            row("KX_GetLogicalUnit", u -> jni.KX_GetLogicalUnit(u, S), S),
+            row("KX_GetLogicalUnit1", u -> jni.KX_GetLogicalUnit1(u, S, 4095), S, 4095),
+            row("KX_GetLastLogicalUnit", u -> jni.KX_GetLastLogicalUnit(u)),
+            row("KX_LogicalUnitAdd", u -> jni.KX_LogicalUnitAdd(u, S, new LogicalUnit()), S),
+            row("KX_LogicalUnitDelete", u -> jni.KX_LogicalUnitDelete(u)),
+            row("KX_LogicalUnitDeleteAll", u -> jni.KX_LogicalUnitDeleteAll(u)),
+            row("KX_LogicalUnitDeleteByLUN", u -> jni.KX_LogicalUnitDeleteByLUN(u, S, 17), S, 17),
+            row("KX_LogicalUnitExpand", u -> jni.KX_LogicalUnitExpand(u, 5, -6), 5, -6),
+            row("KX_LogicalUnitChangeStaging", u -> jni.KX_LogicalUnitChangeStaging(u, S, 7, 8), S, 7, 8),
+            row("KX_LogicalUnitChangeCtl", u -> jni.KX_LogicalUnitChangeCtl(u, S, 1), S, 1),
+            row("KX_LogicalUnitInvalid", u -> jni.KX_LogicalUnitInvalid(u, 9), 9),
+            row("KX_LogicalUnitRestore", u -> jni.KX_LogicalUnitRestore(u, 10), 10),
+            row("KX_LogicalUnitRealloc", u -> jni.KX_LogicalUnitRealloc(u, new LUReallocInfo())),
+            row("KX_LogicalUnitFormat", u -> jni.KX_LogicalUnitFormat(u, 17, -3), 17, -3),
+            row("KX_LogicalUnitFormatStatus", u -> jni.KX_LogicalUnitFormatStatus(u, 2047), 2047),
+            row("KX_LogicalUnitFormatImmediateCTL", u -> jni.KX_LogicalUnitFormatImmediateCTL(u, 5, 1), 5, 1),
+            row("KX_LogicalUnitFormatStatusList", u -> jni.KX_LogicalUnitFormatStatusList(u)),
+            row("KX_EntryFormatList", u -> jni.KX_EntryFormatList(u, new FormatList())),
+            row("KX_GetFormatStatusList", u -> jni.KX_GetFormatStatusList(u)),
+            row("KX_GetQuickFormatOption", u -> jni.KX_GetQuickFormatOption(u, S), S),
+            row("KX_SetQuickFormatOption", u -> jni.KX_SetQuickFormatOption(u, S, new QuickFormatOption()), S),
+            row("KX_EntryQuickFormatList", u -> jni.KX_EntryQuickFormatList(u, S, new QuickFormatList()), S),
+            row("KX_GetQuickFormatStatusList", u -> jni.KX_GetQuickFormatStatusList(u, S), S),
+            row("KX_EntryParityCorrectionList",
+                u -> jni.KX_EntryParityCorrectionList(u, S, new ParityCorrectionList()), S),
+            row("KX_GetParityCorrectionStatusList", u -> jni.KX_GetParityCorrectionStatusList(u, S), S),
+            row("KX_GetDriveInformation", u -> jni.KX_GetDriveInformation(u, S, 5, 6), S, 5, 6),
+            row("KX_GetDriveInformationAll", u -> jni.KX_GetDriveInformationAll(u, S), S),
+            row("KX_GetDriveStatus", u -> jni.KX_GetDriveStatus(u, S), S),
+            row("KX_DriveReconstructInformation", u -> jni.KX_DriveReconstructInformation(u, S, 3, 14), S, 3, 14),
+            row("KX_GetDiskDriveRestoration", u -> jni.KX_GetDiskDriveRestoration(u, S), S),
+            row("KX_SetDiskDriveRestoration", u -> jni.KX_SetDiskDriveRestoration(u, S, new DiskDriveRestoration()), S),
+            row("KX_GetSATADriveInformation", u -> jni.KX_GetSATADriveInformation(u, S), S),
+            row("KX_SetSATADriveInformation", u -> jni.KX_SetSATADriveInformation(u, S, new SATADriveInformation()), S),
+            row("KX_GetSATADriveRestoration", u -> jni.KX_GetSATADriveRestoration(u, S), S),
+            row("KX_SetSATADriveRestoration", u -> jni.KX_SetSATADriveRestoration(u, S, new SATADriveRestoration()), S),
+            row("KX_GetDriveResponseDiag", u -> jni.KX_GetDriveResponseDiag(u, S), S),
+            row("KX_SetDriveResponseDiag", u -> jni.KX_SetDriveResponseDiag(u, S, new DriveResponseDiag()), S),
+            row("KX_SetDriveMode", u -> jni.KX_SetDriveMode(u, S, 7, -8, 9), S, 7, -8, 9),
+            row("KX_GetSpinDownUpInformation", u -> jni.KX_GetSpinDownUpInformation(u, S), S),
+            row("KX_SpinDownDriveByRG", u -> jni.KX_SpinDownDriveByRG(u, S, 89), S, 89),
+            row("KX_SpinUpDriveByRG", u -> jni.KX_SpinUpDriveByRG(u, S, 0x10000), S, 0x10000),
+        };
+    }
+
+    @Test
+    public void everyNativePassesUnitSessionAndIntsInOrderAndTestsTheUnitForNull() throws Throwable {
+        for (Object[] r : natives()) {
+            String fn = (String) r[0];
+            UnitCall call = (UnitCall) r[1];
+            FakePernix.reset();
+            call.run("unit-" + fn);
+            assertEquals(fn, 1, FakePernix.calls(fn));
+            assertCString("unit-" + fn, 65, FakePernix.arg(fn, 0, 0));
+            for (int i = 2; i < r.length; i++) {
+                if (r[i] == S) assertArrayEquals(fn, S.session_id, FakePernix.arg(fn, 0, i - 1));
+                else assertEquals(fn, r[i], FakePernix.intArg(fn, 0, i - 1));
+            }
+            if (fn.equals("KX_LogicalUnitFormatStatusList") || fn.equals("KX_GetDriveStatus")) {
+                call.run(null);  // no null test: an empty name
+                assertCString("", 65, FakePernix.arg(fn, 1, 0));
+            } else {
+                assertEquals(fn, 258, code(() -> call.run(null)));
+                assertEquals(fn, 1, FakePernix.calls(fn));
+            }
+        }
+    }
+
+    @Test
+    public void oldInterfaceListsNinetyGroupsAndSendsWholeGroups() throws Throwable {
+        Rec list = put(put(Rec.of(90 * 56), 0, 0, RAID_GROUP), 89 * 56, 89, RAID_GROUP);
+        FakePernix.willWrite("KX_GetRaidGroups", 1, list.bytes());
         RaidGroup[] groups = jni.KX_GetRaidGroups("unit-A");
         assertEquals(90, groups.length);
         assertFields(groups[0], 0, RAID_GROUP);
-        assertFields(groups[2], 2, RAID_GROUP);
         assertFields(groups[89], 89, RAID_GROUP);
         assertEquals(0, groups[50].rgnum);
-        assertCString("unit-A", 65, FakePernix.arg("KX_GetRaidGroups", 0, 0));
-        assertEquals(90 * 56, FakePernix.arg("KX_GetRaidGroups", 0, 1).length);
-    }
 
-    @Test
-    public void raidGroupAddAndExpandSendEveryField() {
         RaidGroup rg = fill(new RaidGroup(), 5, RAID_GROUP);
         jni.KX_RaidGroupAdd("u", rg);
         jni.KX_RaidGroupExpand("u", rg);
-        for (String fn : new String[] {"KX_RaidGroupAdd", "KX_RaidGroupExpand"}) {
-            Rec sent = Rec.wrap(FakePernix.arg(fn, 0, 1));
-            assertEquals(56, sent.size());
-            assertInts(sent, 0, 5, RAID_GROUP);
-        }
-        // A null group goes to the library as an empty record.
-        jni.KX_RaidGroupAdd("u", null);
-        assertTrue(Rec.wrap(FakePernix.arg("KX_RaidGroupAdd", 1, 1)).zero(0, 56));
+        for (String fn : new String[] {"KX_RaidGroupAdd", "KX_RaidGroupExpand"})
+            assertArrayEquals(fn, put(Rec.of(56), 0, 5, RAID_GROUP).bytes(), FakePernix.arg(fn, 0, 1));
+
+        // The list frame: the library's codes, 256 quietly.
+        FakePernix.willReturn("KX_GetRaidGroups", -9);
+        assertEquals(-9, code(() -> jni.KX_GetRaidGroups("u")));
+        FakePernix.willReturn("KX_GetRaidGroups", 256);
+        assertNull(jni.KX_GetRaidGroups("u"));
+        assertEachAllocationFailureReported(() -> jni.KX_GetRaidGroups("u"));
     }
 
     @Test
-    public void createRaidGroupSendsHeaderAndDrives() {
-        jni.KX_CreateRaidGroup("unit", session(9), create(3));
-        assertArrayEquals(session(9).session_id, FakePernix.arg("KX_CreateRaidGroup", 0, 1));
-        Rec sent = Rec.wrap(FakePernix.arg("KX_CreateRaidGroup", 0, 2));
-        assertEquals(3628, sent.size());
-        assertInts(sent, 0, 3, CREATE_HEAD);
-        for (int i = 0; i < 3; i++) {
-            assertEquals(i + 1, sent.i32(28 + 8 * i));
-            assertEquals(-(i + 1), sent.i32(32 + 8 * i));
-        }
-        assertTrue(sent.zero(28 + 24, 3628 - 28 - 24));
-    }
+    public void plannedGroupIsSentWithItsDrivesAndItsCapacityReturned() throws Throwable {
+        FakePernix.willWrite("KX_GetRaidGroupCreationCapacity", 3, put(Rec.of(52), 0, 11, RG_DETAIL).bytes());
+        assertFields(jni.KX_GetRaidGroupCreationCapacity("unit-C", S, create(2)), 11, RG_DETAIL);
+        jni.KX_CreateRaidGroup("unit-C", S, create(3));
+        Rec expected = put(Rec.of(3628), 0, 3, CREATE_HEAD);
+        for (int i = 0; i < 3; i++) expected.i32(28 + 8 * i, i + 1).i32(32 + 8 * i, -(i + 1));
+        assertArrayEquals(expected.bytes(), FakePernix.arg("KX_CreateRaidGroup", 0, 2));
+        assertArrayEquals(expected.i32(44, 0).i32(48, 0).bytes(),
+                          FakePernix.arg("KX_GetRaidGroupCreationCapacity", 0, 2));
+        assertEachAllocationFailureReported(() -> jni.KX_GetRaidGroupCreationCapacity("u", S, create(2)));
 
-    @Test
-    public void createRaidGroupDriveListEdges() {
-        // No drive list: the header still goes, the slots stay empty.
-        CreateRaidGroup none = create(0);
-        none.rgdrv = null;
-        jni.KX_CreateRaidGroup("unit", session(1), none);
-        Rec sent = Rec.wrap(FakePernix.arg("KX_CreateRaidGroup", 0, 2));
-        assertInts(sent, 0, 3, CREATE_HEAD);
-        assertTrue(sent.zero(28, 3600));
-
-        // A null drive leaves its slot empty and the ones after it are still read.
-        CreateRaidGroup gap = create(3);
-        gap.rgdrv[1] = null;
-        jni.KX_CreateRaidGroup("unit", session(1), gap);
-        sent = Rec.wrap(FakePernix.arg("KX_CreateRaidGroup", 1, 2));
-        assertTrue(sent.zero(36, 8));
-        assertEquals(3, sent.i32(44));
-
-        // More drives than slots: the first 450 are taken, nothing is written past the record.
-        jni.KX_CreateRaidGroup("unit", session(1), create(460));
-        sent = Rec.wrap(FakePernix.arg("KX_CreateRaidGroup", 2, 2));
+        // No drive list: the slots stay empty.  More than 450: the first 450 only.
+        CreateRaidGroup edge = create(0);
+        edge.rgdrv = null;
+        jni.KX_CreateRaidGroup("u", S, edge);
+        assertArrayEquals(put(Rec.of(3628), 0, 3, CREATE_HEAD).bytes(), FakePernix.arg("KX_CreateRaidGroup", 0, 2));
+        jni.KX_CreateRaidGroup("u", S, create(460));
+        Rec sent = Rec.wrap(FakePernix.arg("KX_CreateRaidGroup", 1, 2));
         assertEquals(450, sent.i32(28 + 8 * 449));
         assertEquals(-450, sent.i32(32 + 8 * 449));
     }
 
     @Test
-    public void creationCapacityReadsThePlanAndReturnsTheDetail() {
-        FakePernix.willWrite("KX_GetRaidGroupCreationCapacity", 3, put(Rec.of(52), 0, 11, RG_DETAIL).bytes());
-        RgDetail d = jni.KX_GetRaidGroupCreationCapacity("unit-C", session(4), create(2));
-        assertFields(d, 11, RG_DETAIL);
-        assertCString("unit-C", 65, FakePernix.arg("KX_GetRaidGroupCreationCapacity", 0, 0));
-        assertArrayEquals(session(4).session_id, FakePernix.arg("KX_GetRaidGroupCreationCapacity", 0, 1));
-        Rec sent = Rec.wrap(FakePernix.arg("KX_GetRaidGroupCreationCapacity", 0, 2));
-        assertInts(sent, 0, 3, CREATE_HEAD);
-        assertEquals(2, sent.i32(36));
-        assertEquals(52, FakePernix.arg("KX_GetRaidGroupCreationCapacity", 0, 3).length);
-    }
-
-    @Test
-    public void raidGroupInformationBuildsNinetyGroupsAndThirtyByFifteenDrives() {
-        Rec info = Rec.of(11884).i32(0, 2);
-        put(info, 4, 0, RG_DETAIL);
-        put(info, 4 + 89 * 52, 89, RG_DETAIL);
-        put(info, 4684 + 240 * 1 + 16 * 0, 100, RG_DRIVE_INFO);
-        put(info, 4684 + 240 * 0 + 16 * 1, 101, RG_DRIVE_INFO);
+    public void groupInformationHoldsNinetyGroupsAndThirtyRowsOfFifteenDrives() {
+        Rec info = put(put(Rec.of(11884).i32(0, 2), 4, 0, RG_DETAIL), 4 + 89 * 52, 89, RG_DETAIL);
+        put(info, 4684 + 240, 100, RG_DRIVE_INFO);
+        put(info, 4684 + 16, 101, RG_DRIVE_INFO);
         put(info, 4684 + 240 * 29 + 16 * 14, 102, RG_DRIVE_INFO);
         FakePernix.willWrite("KX_GetRaidGroupInformation", 2, info.bytes());
-
-        RaidGroupInformation got = jni.KX_GetRaidGroupInformation("unit", session(2));
+        RaidGroupInformation got = jni.KX_GetRaidGroupInformation("u", S);
         assertEquals(2, got.rg_count);
         assertEquals(90, got.rg.length);
         assertFields(got.rg[0], 0, RG_DETAIL);
         assertFields(got.rg[89], 89, RG_DETAIL);
-        assertEquals(0, got.rg[2].rgnum);
         assertEquals(30, got.rgdrv.length);
         for (RgDriveInfo[] row : got.rgdrv) assertEquals(15, row.length);
         assertFields(got.rgdrv[1][0], 100, RG_DRIVE_INFO);
         assertFields(got.rgdrv[0][1], 101, RG_DRIVE_INFO);
         assertFields(got.rgdrv[29][14], 102, RG_DRIVE_INFO);
-        assertArrayEquals(session(2).session_id, FakePernix.arg("KX_GetRaidGroupInformation", 0, 1));
     }
 
     @Test
     public void areaInformationAlwaysHolds8193Areas() {
-        Rec area = Rec.of(163872).i32(0, 7).i32(4, 0x12345678).i32(8, 2);
-        put(area, 12, 0, AREA_INFO);
-        put(area, 12 + 20 * 8192, 8192, AREA_INFO);
-        FakePernix.willWrite("KX_GetRGAreaInformation", 3, area.bytes());
-
-        RGAreaInformation got = jni.KX_GetRGAreaInformation("unit", session(3), 7);
-        assertEquals(7, got.rgnum);
-        assertEquals(0x12345678, got.lumaxcapa);
-        assertEquals(2, got.area_count);
-        assertEquals(8193, got.area.length);
+        Rec area = put(Rec.of(163872).i32(0, 7).i32(4, 0x12345678).i32(8, 2), 12, 0, AREA_INFO);
+        FakePernix.willWrite("KX_GetRGAreaInformation", 3, put(area, 12 + 20 * 8192, 8192, AREA_INFO).bytes());
+        RGAreaInformation got = jni.KX_GetRGAreaInformation("u", S, 7);
+        assertArrayEquals(new int[] {7, 0x12345678, 2, 8193},
+                          new int[] {got.rgnum, got.lumaxcapa, got.area_count, got.area.length});
         assertFields(got.area[0], 0, AREA_INFO);
         assertFields(got.area[8192], 8192, AREA_INFO);
-        AreaInfo middle = got.area[4000];
-        assertEquals(0, middle.lun);
-        assertEquals(7, FakePernix.intArg("KX_GetRGAreaInformation", 0, 2));
-    }
-
-    @Test
-    public void deleteCommandsPassUnitSessionAndNumber() {
-        jni.KX_RaidGroupDelete("unit-D", session(6), -3);
-        assertCString("unit-D", 65, FakePernix.arg("KX_RaidGroupDelete", 0, 0));
-        assertArrayEquals(session(6).session_id, FakePernix.arg("KX_RaidGroupDelete", 0, 1));
-        assertEquals(-3, FakePernix.intArg("KX_RaidGroupDelete", 0, 2));
-
-        // A null session goes as an empty token.
-        jni.KX_RaidGroupAllDelete("unit-D", null);
-        assertArrayEquals(new byte[32], FakePernix.arg("KX_RaidGroupAllDelete", 0, 1));
-    }
-
-    @Test
-    public void libraryResultsAreThrownUnchangedAnd256Quietly() {
-        FakePernix.willReturn("KX_GetRaidGroups", 0x3A01);
-        assertEquals(0x3A01, code(() -> jni.KX_GetRaidGroups("u")));
-        FakePernix.willReturn("KX_GetRGAreaInformation", -9);
-        assertEquals(-9, code(() -> jni.KX_GetRGAreaInformation("u", session(0), 1)));
-        FakePernix.willReturn("KX_CreateRaidGroup", 4242);
-        assertEquals(4242, code(() -> jni.KX_CreateRaidGroup("u", session(0), create(1))));
-
-        FakePernix.willReturn("KX_GetRaidGroups", 256);
-        FakePernix.willReturn("KX_GetRaidGroupInformation", 256);
-        FakePernix.willReturn("KX_GetRaidGroupCreationCapacity", 256);
-        FakePernix.willReturn("KX_RaidGroupDelete", 256);
-        assertNull(jni.KX_GetRaidGroups("u"));
-        assertNull(jni.KX_GetRaidGroupInformation("u", session(0)));
-        assertNull(jni.KX_GetRaidGroupCreationCapacity("u", session(0), create(1)));
-        jni.KX_RaidGroupDelete("u", session(0), 1);
-    }
-
-    @Test
-    public void nullUnitNameIsRefusedBeforeTheLibrary() {
-        Body[] calls = {
-            () -> jni.KX_GetRaidGroups(null),
-            () -> jni.KX_RaidGroupAdd(null, new RaidGroup()),
-            () -> jni.KX_RaidGroupExpand(null, new RaidGroup()),
-            () -> jni.KX_RaidGroupDelete(null, session(0), 1),
-            () -> jni.KX_RaidGroupAllDelete(null, session(0)),
-            () -> jni.KX_CreateRaidGroup(null, session(0), create(1)),
-            () -> jni.KX_GetRaidGroupInformation(null, session(0)),
-            () -> jni.KX_GetRGAreaInformation(null, session(0), 1),
-            () -> jni.KX_GetRaidGroupCreationCapacity(null, session(0), create(1)),
-        };
-        for (Body b : calls) assertEquals(258, code(b));
-        assertEquals(0, FakePernix.log().length);
-        assertEquals(0, FakePernix.allocations());
-    }
-
-    @Test
-    public void everyAllocationFailureIsReported() throws Throwable {
-        assertEachAllocationFailureReported(() -> jni.KX_GetRaidGroups("u"));
-        assertEachAllocationFailureReported(() -> jni.KX_RaidGroupAdd("u", new RaidGroup()));
-        assertEachAllocationFailureReported(() -> jni.KX_RaidGroupDelete("u", session(0), 1));
-        assertEachAllocationFailureReported(() -> jni.KX_CreateRaidGroup("u", session(0), create(2)));
-        assertEachAllocationFailureReported(() -> jni.KX_GetRaidGroupInformation("u", session(0)));
-        assertEachAllocationFailureReported(() -> jni.KX_GetRGAreaInformation("u", session(0), 1));
-        assertEachAllocationFailureReported(
-            () -> jni.KX_GetRaidGroupCreationCapacity("u", session(0), create(2)));
+        assertEquals(0, got.area[4000].lun);
     }
 }

@@ -1,0 +1,6 @@
+package orvane.str.diskarray;
+
+/** Lacks percent. */
+public class LuFormatStatus {
+    public int status, err_code_sense_key, err_code_sense_code;
+}
