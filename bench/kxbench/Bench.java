@@ -9,7 +9,6 @@ import java.util.IdentityHashMap;
 import java.util.List;
 import java.util.Locale;
 import java.util.Map;
-import orvane.str.diskarray.DiskArrayUtilityJNI;
 
 /**
  * Times the natives that build the largest Java trees against the test double
@@ -42,7 +41,7 @@ public final class Bench {
         cases.add(new Cases.LogicalUnits());
         cases.add(new Cases.AreaInformation());
         cases.add(new Cases.GroupInformation());
-        String skipped = optional(cases, "KX_GetSpinDownUpInformation", "kxbench.SpinDownUpCase");
+        cases.add(new SpinDownUpCase());
 
         System.out.printf("Bridge natives against the test double of libpernix.so, one warm JVM (%s %s)%n",
             System.getProperty("java.vm.name"), System.getProperty("java.version"));
@@ -62,25 +61,11 @@ public final class Bench {
                 ms(r.quietNs), ms(r.nativeNs - r.quietNs), ms(r.floorNs),
                 r.nativeNs / r.floorNs);
         }
-        if (skipped != null) System.out.println(skipped);
         System.out.println();
         System.out.println("objects: Java objects in the returned tree (records and arrays), the same for the floor.");
         System.out.println("frame+fake: the same call answered 256 (records allocated, library called, nothing built).");
         System.out.println("p10-p90: spread of the timed native calls.");
         System.out.println("conversion: median/call minus frame+fake.  ratio: median/call over the floor.");
-    }
-
-    /** Adds the case of a native that only some trees declare; the reason when it is left out. */
-    private static String optional(List<Case> cases, String method, String caseClass) throws Exception {
-        boolean declared = Arrays.stream(DiskArrayUtilityJNI.class.getMethods())
-            .anyMatch(m -> m.getName().equals(method));
-        if (!declared) return method + ": not declared in this tree, skipped.";
-        try {
-            cases.add((Case) Class.forName(caseClass).getDeclaredConstructor().newInstance());
-            return null;
-        } catch (ClassNotFoundException e) {
-            return method + ": declared, but the benchmark was configured without it; re-run cmake.";
-        }
     }
 
     private static final class Result {

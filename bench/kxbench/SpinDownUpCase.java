@@ -5,10 +5,7 @@ import orvane.str.diskarray.SpinDownUpInformation;
 import orvane.str.diskarray.SpinDownUpLuInfo;
 import orvane.str.diskarray.SpinDownUpRGInfo;
 
-/**
- * Power-saving state of 24 RAID groups and 600 LUs.  Compiled only in trees
- * that declare KX_GetSpinDownUpInformation; the benchmark loads it by name.
- */
+/** Power-saving state of 24 RAID groups and 600 LUs. */
 public final class SpinDownUpCase extends Case {
     public SpinDownUpCase() {
         super("KX_GetSpinDownUpInformation", 2, 50964);
