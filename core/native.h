@@ -260,7 +260,7 @@ T convert(JNIEnv* env, int& code, S& s, Rest&... rest) {
 
 template <typename Fn, typename... S>
   requires(!std::same_as<std::remove_cvref_t<Fn>, Options>)
-auto call(JNIEnv* env, const Options& opt, Fn&& fn, S&&... specs) -> detail::result_t<S...> {
+auto call(JNIEnv* env, const Options& opt, Fn&& fn, S&&... args) -> detail::result_t<S...> {
   using T = detail::result_t<S...>;
   static_assert(((detail::Result<std::remove_cvref_t<S>> ? 1 : 0) + ... + 0) <= 1,
                 "a native has at most one result");
@@ -271,20 +271,20 @@ auto call(JNIEnv* env, const Options& opt, Fn&& fn, S&&... specs) -> detail::res
     if constexpr (!std::is_void_v<T>) return detail::failure<T>(opt);
   };
 
-  if ((detail::missing(specs) || ...)) return fail(kNullArgument);
+  if ((detail::missing(args) || ...)) return fail(kNullArgument);
   bool ready = true;
-  ((ready = ready && detail::prepare(env, specs)), ...);
+  ((ready = ready && detail::prepare(env, args)), ...);
   if (!ready) return fail(kNoMemory);
-  (detail::fill(env, specs), ...);
+  (detail::fill(env, args), ...);
 
-  int rc = fn(detail::arg(specs)...);
+  int rc = fn(detail::arg(args)...);
   if (rc != kOk) return fail(rc);
 
   if constexpr (std::is_void_v<T>) {
     if (opt.flush) std::fflush(stdout);
   } else {
     int code = kOk;
-    T result = detail::convert<T>(env, code, specs...);
+    T result = detail::convert<T>(env, code, args...);
     if (code != kOk) return fail(code);
     if (opt.flush) std::fflush(stdout);
     return result;
@@ -293,8 +293,8 @@ auto call(JNIEnv* env, const Options& opt, Fn&& fn, S&&... specs) -> detail::res
 
 template <typename Fn, typename... S>
   requires(!std::same_as<std::remove_cvref_t<Fn>, Options>)
-auto call(JNIEnv* env, Fn&& fn, S&&... specs) -> detail::result_t<S...> {
-  return call(env, Options{}, std::forward<Fn>(fn), std::forward<S>(specs)...);
+auto call(JNIEnv* env, Fn&& fn, S&&... args) -> detail::result_t<S...> {
+  return call(env, Options{}, std::forward<Fn>(fn), std::forward<S>(args)...);
 }
 
 }  // namespace kx
