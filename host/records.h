@@ -5,6 +5,10 @@
 #include "host.h"
 #include "session/records.h"
 
+// ==== host groups and LU mapping ====
+
+// ==== end of host groups and LU mapping ====
+
 // ==== Fibre Channel ports, WWN security and target IDs ====
 
 KX_RECORD(FibreInformationPermission, FibreInformationPermissionRec,
@@ -16,3 +20,11 @@ KX_RECORD(FibreInformationPermission, FibreInformationPermissionRec,
 KX_CONVERTERS(FibreInformationPermission, FibreInformationPermission, FibreInformationPermissionRec)
 
 // ==== end of Fibre Channel ports, WWN security and target IDs ====
+
+// ==== iSCSI ports, targets, initiators and CHAP ====
+
+// ==== end of iSCSI ports, targets, initiators and CHAP ====
+
+// ==== LU guard and retention ====
+
+// ==== end of LU guard and retention ====

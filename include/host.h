@@ -6,6 +6,10 @@
 #include "pernix_common.h"
 #include "session.h"
 
+/* ==== host groups and LU mapping ==== */
+
+/* ==== end of host groups and LU mapping ==== */
+
 /* ==== Fibre Channel ports, WWN security and target IDs ==== */
 
 #pragma pack(push, 1)
@@ -26,5 +30,13 @@ PERNIX_OFFSET(FibreInformationPermissionRec, lun_security_bitmap, 41);
 #pragma pack(pop)
 
 /* ==== end of Fibre Channel ports, WWN security and target IDs ==== */
+
+/* ==== iSCSI ports, targets, initiators and CHAP ==== */
+
+/* ==== end of iSCSI ports, targets, initiators and CHAP ==== */
+
+/* ==== LU guard and retention ==== */
+
+/* ==== end of LU guard and retention ==== */
 
 #endif

@@ -642,4 +642,8 @@ PERNIX_END_DECLS
 
 /* ==== end of formatting, parity correction and drives ==== */
 
+/* ==== pools, virtual volumes, unified LUs, set-up wizard and LU cache ==== */
+
+/* ==== end of pools, virtual volumes, unified LUs, set-up wizard and LU cache ==== */
+
 #endif

@@ -242,3 +242,8 @@ KX_WRITER(SpinDownUpLuInfo, SpinDownUpLuInfoRec)
 KX_WRITER(SpinDownUpInformation, SpinDownUpInformationRec)
 
 // ==== end of formatting, parity correction and drives ====
+
+
+// ==== pools, virtual volumes, unified LUs, set-up wizard and LU cache ====
+
+// ==== end of pools, virtual volumes, unified LUs, set-up wizard and LU cache ====

@@ -42,6 +42,14 @@ public final class Bench {
         cases.add(new Cases.AreaInformation());
         cases.add(new Cases.GroupInformation());
         cases.add(new SpinDownUpCase());
+        // pools, wizard and LU cache
+
+        // host access
+
+        // statistics and performance
+
+        // firmware, copy pairs and migration
+
 
         System.out.printf("Bridge natives against the test double of libpernix.so, one warm JVM (%s %s)%n",
             System.getProperty("java.vm.name"), System.getProperty("java.version"));

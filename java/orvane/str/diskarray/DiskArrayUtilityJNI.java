@@ -149,4 +149,39 @@ public class DiskArrayUtilityJNI {
     public native FibreInformationPermission[] KX_FibreInfoPermissionImport(String unitName, String path, int a, int b);
 
     // ---- end of accounts ----
+
+
+    // ---- pools, virtual volumes, unified LUs, set-up wizard and LU cache ----
+
+    // ---- end of pools, virtual volumes, unified LUs, set-up wizard and LU cache ----
+
+
+    // ---- host groups and LU mapping ----
+
+    // ---- end of host groups and LU mapping ----
+
+
+    // ---- Fibre Channel ports, WWN security and target IDs ----
+
+    // ---- end of Fibre Channel ports, WWN security and target IDs ----
+
+
+    // ---- iSCSI, CHAP and LU guard ----
+
+    // ---- end of iSCSI, CHAP and LU guard ----
+
+
+    // ---- statistics and performance output ----
+
+    // ---- end of statistics and performance output ----
+
+
+    // ---- controller and enclosure microcode, boot options ----
+
+    // ---- end of controller and enclosure microcode, boot options ----
+
+
+    // ---- copy pairs, command devices and volume migration ----
+
+    // ---- end of copy pairs, command devices and volume migration ----
 }
