@@ -157,6 +157,26 @@ public class DiskArrayUtilityJNI {
 
 
     // ---- host groups and LU mapping ----
+    public native HGList KX_GetHGList(String unitName, KXSessionInfo session);
+    public native void KX_CreateHG(String unitName, KXSessionInfo session, int a, int b, int c, HGConfig config);
+    public native void KX_ChangeHG(String unitName, KXSessionInfo session, int a, int b, int c, HGConfig config);
+    public native void KX_DeleteHGList(String unitName, KXSessionInfo session, DeleteHGList list);
+    public native void KX_InitHGList(String unitName, KXSessionInfo session, InitHGList list);
+    public native HGOptionInfo KX_GetHGOption(String unitName, KXSessionInfo session, int a, int b, int c);
+    public native void KX_SetHGOption(String unitName, KXSessionInfo session, int a, int b, int c, HGOptionInfo info);
+    public native HGOption KX_GetHGOptionAll(String unitName, KXSessionInfo session);
+    public native void KX_SetHGOptionAll(String unitName, KXSessionInfo session, HGOption option);
+    public native HGParameterID KX_GetHGParameterID(String unitName, KXSessionInfo session, int a);
+    public native HGParameterList KX_GetHGParameterList(String unitName, KXSessionInfo session);
+    public native LuMapping KX_GetLuMappingListAll(String unitName, KXSessionInfo session);
+    public native void KX_SetLuMappingListAll(String unitName, KXSessionInfo session, LuMapping map);
+    /** Element 0: the number of mapped LUs as an Integer (null for none); element 1: the LuMappingHGInfo. */
+    public native Object[] KX_GetLuMappingList(String unitName, KXSessionInfo session, int a, int b, int c);
+    public native void KX_SetLuMappingList(String unitName, KXSessionInfo session, int a, int b, int c, int d,
+                                           LuMappingHGInfo lu);
+    public native void KX_ChangeMappingMode(String unitName, KXSessionInfo session, int mode);
+    public native MappingGuardList KX_GetMappingGuardList(String unitName, KXSessionInfo session);
+    public native void KX_SetMappingGuardList(String unitName, KXSessionInfo session, MappingGuardList guard);
 
     // ---- end of host groups and LU mapping ----
 

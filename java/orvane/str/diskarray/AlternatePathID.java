@@ -1,0 +1,7 @@
+package orvane.str.diskarray;
+
+public class AlternatePathID {
+    public int alternate_path_id;
+    public byte[] alternate_path_name = new byte[31];
+    public String alternate_path_name_str;
+}

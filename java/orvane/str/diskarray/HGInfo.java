@@ -1,0 +1,6 @@
+package orvane.str.diskarray;
+
+public class HGInfo {
+    public int valid;
+    public String hgname;
+}

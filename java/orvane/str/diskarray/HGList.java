@@ -1,0 +1,6 @@
+package orvane.str.diskarray;
+
+public class HGList {
+    public int lun_manage;
+    public HGCtlInfo[] ctl;
+}

@@ -1,0 +1,6 @@
+package orvane.str.diskarray;
+
+public class HGPortInfo {
+    public int security;
+    public HGInfo[] hg;
+}

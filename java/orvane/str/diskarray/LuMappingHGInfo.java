@@ -1,0 +1,5 @@
+package orvane.str.diskarray;
+
+public class LuMappingHGInfo {
+    public int[] lu = new int[256];
+}

@@ -1,0 +1,6 @@
+package orvane.str.diskarray;
+
+public class SpecialmodeInfo {
+    public int specialmode_id;
+    public HGOptionInfo hgoptinfo;
+}
