@@ -45,6 +45,7 @@ public final class Bench {
         // pools, wizard and LU cache
 
         // host access
+        cases.add(new LuMappingCase());
 
         // statistics and performance
 
