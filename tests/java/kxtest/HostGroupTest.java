@@ -124,12 +124,6 @@ public class HostGroupTest extends BridgeTest {
         cfg.hgname = "host-b";
         jni.KX_ChangeHG("u", S, 0, 0, 1, cfg);
         assertCString("host-b", 17, FakePernix.arg("KX_ChangeHG", 0, 5));
-
-        // No name or no object: the library still gets the empty record.
-        jni.KX_ChangeHG("u", S, 0, 0, 1, new HGConfig());
-        jni.KX_ChangeHG("u", S, 0, 0, 1, null);
-        assertArrayEquals(new byte[17], FakePernix.arg("KX_ChangeHG", 1, 5));
-        assertArrayEquals(new byte[17], FakePernix.arg("KX_ChangeHG", 2, 5));
     }
 
     // ---- delete and reset selections
