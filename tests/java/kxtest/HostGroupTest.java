@@ -284,11 +284,11 @@ public class HostGroupTest extends BridgeTest {
         byte[] plat19 = nameBytes("ABCDEFGHIJKLMNOPQRSTUVWXYZ01234", 31);  // fills every byte
         byte[] alt = nameBytes("caf\u00e9 \u00c0", 31);                       // not ASCII
         byte[] fail = nameBytes("Fail-over", 31);
-        byte[] spec = nameBytes("special mode with a long name", 121);
+        byte[] special = nameBytes("special mode with a long name", 121);
         r.i32(4, 11).put(8, plat0).i32(4 + 19 * 36, -1).put(8 + 19 * 36, plat19);
         r.i32(728 + 36, 12).put(732 + 36, alt);
         r.i32(1452 + 19 * 36, 13).put(1456 + 19 * 36, fail);
-        r.i32(2176 + 29 * 128, 14).put(2180 + 29 * 128, spec).u8(2176 + 29 * 128 + 125, 0x77);
+        r.i32(2176 + 29 * 128, 14).put(2180 + 29 * 128, special).u8(2176 + 29 * 128 + 125, 0x77);
         FakePernix.willWrite("KX_GetHGParameterID", 3, r.bytes());
 
         HGParameterID ids = jni.KX_GetHGParameterID("u", S, 2);
@@ -304,7 +304,7 @@ public class HostGroupTest extends BridgeTest {
         assertEquals(13, ids.failover[19].failover_id);
         assertName(fail, ids.failover[19].failover_name, ids.failover[19].failover_name_str);
         assertEquals(14, ids.specialmode[29].specialmode_id);
-        assertName(spec, ids.specialmode[29].specialmode_name, ids.specialmode[29].specialmode_name_str);
+        assertName(special, ids.specialmode[29].specialmode_name, ids.specialmode[29].specialmode_name_str);
         assertEquals("", ids.failover[0].failover_name_str);
     }
 
@@ -314,8 +314,8 @@ public class HostGroupTest extends BridgeTest {
         int plat = 4 + 19 * 14568, alt = plat + 8 + 19 * 728, fail = alt + 8 + 19 * 36;
         r.i32(plat, 101).i32(plat + 4, 20).i32(alt, 102).i32(alt + 4, 20).i32(fail, 103);
         for (int f = 0; f < 8; f++) r.i32(fail + 4 + 4 * f, 1000 + f);
-        int spec = 291368 + 29 * 36;
-        r.i32(spec, 104).i32(spec + 4 + 28, 2000);
+        int special = 291368 + 29 * 36;
+        r.i32(special, 104).i32(special + 4 + 28, 2000);
         FakePernix.willWrite("KX_GetHGParameterList", 2, r.bytes());
 
         HGParameterList l = jni.KX_GetHGParameterList("u", S);
