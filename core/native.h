@@ -56,7 +56,8 @@ inline constexpr Options kNoFlush{.flush = false};
 //
 // Each kind may provide: missing() (a required argument is null: 258),
 // prepare(env) (copy or allocate; false when memory ran out: 65535),
-// fill(env) (convert the Java input), arg() (what the library receives) and,
+// fill(env) (convert the Java input; an int result other than 0 stops the
+// call with that code), arg() (what the library receives) and,
 // for the one result of a native, convert(env, code) and result_type.
 
 // A String argument copied into an N-byte buffer (at most N-1 bytes and a
@@ -108,6 +109,20 @@ struct In {
 // is released.
 template <typename R>
 In<R> Secret(jobject obj, const Desc<R>& desc) { return In<R>{obj, desc, true}; }
+
+// An input record whose conversion must succeed: when it fails (a null
+// object included) or leaves a Java exception pending, 2817 is thrown and the
+// library is not called.
+template <typename R>
+struct Required : In<R> {
+  using In<R>::In;
+  int fill(JNIEnv* env) {
+    int rc = read_record(env, this->obj, this->desc, this->rec.get());
+    return rc != kOk || pending(env) ? kMarshal : kOk;
+  }
+};
+template <typename R>
+Required(jobject, const Desc<R>&) -> Required<R>;
 
 // A record the library fills, returned to Java as a new object; 2817 when the
 // object cannot be built.
@@ -216,9 +231,17 @@ bool prepare(JNIEnv* env, S& s) {
   if constexpr (ArgKind<S>) return s.prepare(env);
   else return true;
 }
+// A kind's fill() may return a status: non-zero stops the call before the
+// library is reached, and that code is thrown.  A kind whose fill() returns
+// nothing cannot stop the call.
 template <typename S>
-void fill(JNIEnv* env, S& s) {
-  if constexpr (requires { s.fill(env); }) s.fill(env);
+int fill(JNIEnv* env, S& s) {
+  if constexpr (requires { { s.fill(env) } -> std::same_as<int>; }) {
+    return s.fill(env);
+  } else {
+    if constexpr (requires { s.fill(env); }) s.fill(env);
+    return kOk;
+  }
 }
 template <typename S>
 decltype(auto) arg(S& s) {
@@ -275,7 +298,9 @@ auto call(JNIEnv* env, const Options& opt, Fn&& fn, S&&... args) -> detail::resu
   bool ready = true;
   ((ready = ready && detail::prepare(env, args)), ...);
   if (!ready) return fail(kNoMemory);
-  (detail::fill(env, args), ...);
+  int filled = kOk;
+  ((filled = filled == kOk ? detail::fill(env, args) : filled), ...);
+  if (filled != kOk) return fail(filled);
 
   int rc = fn(detail::arg(args)...);
   if (rc != kOk) return fail(rc);

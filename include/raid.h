@@ -644,6 +644,576 @@ PERNIX_END_DECLS
 
 /* ==== pools, virtual volumes, unified LUs, set-up wizard and LU cache ==== */
 
+#pragma pack(push, 1)
+
+/* ---- pools, virtual volumes and unified LUs ---- */
+
+/* One pool of a controller; its layout is the library's own business. */
+typedef struct PoolDetailInfoRec {
+  uint8_t detail[292];
+} PoolDetailInfoRec;
+PERNIX_SIZE(PoolDetailInfoRec, 292);
+
+typedef struct PoolCtlInfoRec {
+  int32_t pool_enable_count;
+  PoolDetailInfoRec pool[1];
+} PoolCtlInfoRec;
+PERNIX_SIZE(PoolCtlInfoRec, 296);
+PERNIX_OFFSET(PoolCtlInfoRec, pool_enable_count, 0);
+PERNIX_OFFSET(PoolCtlInfoRec, pool, 4);
+
+/* The pools of a unit, one entry per controller. */
+typedef struct PoolInfoRec {
+  int32_t option;
+  PoolCtlInfoRec ctl[2];
+} PoolInfoRec;
+PERNIX_SIZE(PoolInfoRec, 596);
+PERNIX_OFFSET(PoolInfoRec, option, 0);
+PERNIX_OFFSET(PoolInfoRec, ctl, 4);
+
+typedef struct ChgPoolInfoRec {
+  int32_t ctl_no;
+  int32_t pool_no;
+  int32_t poolinfo_chg_index;
+  int32_t threshold;
+} ChgPoolInfoRec;
+PERNIX_SIZE(ChgPoolInfoRec, 16);
+PERNIX_OFFSET(ChgPoolInfoRec, ctl_no, 0);
+PERNIX_OFFSET(ChgPoolInfoRec, pool_no, 4);
+PERNIX_OFFSET(ChgPoolInfoRec, poolinfo_chg_index, 8);
+PERNIX_OFFSET(ChgPoolInfoRec, threshold, 12);
+
+/* LUs to add to a pool: a count and up to 64 LU numbers. */
+typedef struct PoolLuAddListRec {
+  int32_t lu_count;
+  int32_t lu[64];
+} PoolLuAddListRec;
+PERNIX_SIZE(PoolLuAddListRec, 260);
+PERNIX_OFFSET(PoolLuAddListRec, lu_count, 0);
+PERNIX_OFFSET(PoolLuAddListRec, lu, 4);
+
+/* Joining child LUs to a parent LU (or parting them). */
+typedef struct IntegrationLUSetRec {
+  int32_t operation;
+  int32_t parent_lun;
+  int32_t child_lun;
+  int32_t child_count;
+  int32_t child_lu[127];
+} IntegrationLUSetRec;
+PERNIX_SIZE(IntegrationLUSetRec, 524);
+PERNIX_OFFSET(IntegrationLUSetRec, operation, 0);
+PERNIX_OFFSET(IntegrationLUSetRec, parent_lun, 4);
+PERNIX_OFFSET(IntegrationLUSetRec, child_lun, 8);
+PERNIX_OFFSET(IntegrationLUSetRec, child_count, 12);
+PERNIX_OFFSET(IntegrationLUSetRec, child_lu, 16);
+
+/* Per LU number: the single LUs and the unified LUs. */
+typedef struct PINInformationRec {
+  int32_t unite_option;
+  int32_t single_lu[4096];
+  int32_t unite_lu[4096];
+} PINInformationRec;
+PERNIX_SIZE(PINInformationRec, 32772);
+PERNIX_OFFSET(PINInformationRec, unite_option, 0);
+PERNIX_OFFSET(PINInformationRec, single_lu, 4);
+PERNIX_OFFSET(PINInformationRec, unite_lu, 16388);
+
+/* One unified LU and its children. */
+typedef struct UniteLURec {
+  int32_t unite_info;
+  int32_t status;
+  int32_t capacity;
+  int32_t child_lu_count;
+  int32_t child_lun[512];
+} UniteLURec;
+PERNIX_SIZE(UniteLURec, 2064);
+PERNIX_OFFSET(UniteLURec, unite_info, 0);
+PERNIX_OFFSET(UniteLURec, status, 4);
+PERNIX_OFFSET(UniteLURec, capacity, 8);
+PERNIX_OFFSET(UniteLURec, child_lu_count, 12);
+PERNIX_OFFSET(UniteLURec, child_lun, 16);
+
+typedef struct IntegrationLUInfoRec {
+  int32_t integration_lu;
+  UniteLURec unite_info[512];
+} IntegrationLUInfoRec;
+PERNIX_SIZE(IntegrationLUInfoRec, 1056772);
+PERNIX_OFFSET(IntegrationLUInfoRec, integration_lu, 0);
+PERNIX_OFFSET(IntegrationLUInfoRec, unite_info, 4);
+
+/* One LU of a unified LU's chain: `next_lun` names the next child. */
+typedef struct UniteLU2Rec {
+  int32_t unite_info;
+  int32_t status;
+  int32_t capacity;
+  int32_t child_lu_count;
+  int32_t next_lun;
+} UniteLU2Rec;
+PERNIX_SIZE(UniteLU2Rec, 20);
+PERNIX_OFFSET(UniteLU2Rec, unite_info, 0);
+PERNIX_OFFSET(UniteLU2Rec, status, 4);
+PERNIX_OFFSET(UniteLU2Rec, capacity, 8);
+PERNIX_OFFSET(UniteLU2Rec, child_lu_count, 12);
+PERNIX_OFFSET(UniteLU2Rec, next_lun, 16);
+
+typedef struct IntegrationLUInfo2Rec {
+  int32_t integration_lu;
+  int32_t parent_count;
+  int32_t parent_lu[4096];
+  UniteLU2Rec unite_info[4096];
+} IntegrationLUInfo2Rec;
+PERNIX_SIZE(IntegrationLUInfo2Rec, 98312);
+PERNIX_OFFSET(IntegrationLUInfo2Rec, integration_lu, 0);
+PERNIX_OFFSET(IntegrationLUInfo2Rec, parent_count, 4);
+PERNIX_OFFSET(IntegrationLUInfo2Rec, parent_lu, 8);
+PERNIX_OFFSET(IntegrationLUInfo2Rec, unite_info, 16392);
+
+/* A label and its replacement. */
+typedef struct KXLabelRec {
+  char oldlabel[8];
+  char newlabel[8];
+} KXLabelRec;
+PERNIX_SIZE(KXLabelRec, 16);
+PERNIX_OFFSET(KXLabelRec, oldlabel, 0);
+PERNIX_OFFSET(KXLabelRec, newlabel, 8);
+
+/* Label tables of KX_GetLabelList and KX_GetLabelList2. */
+enum { PERNIX_LABELS = 20, PERNIX_LABELS2 = 64 };
+
+typedef struct SpareDiskRec {
+  int32_t unit_no;
+  int32_t hdu_no;
+} SpareDiskRec;
+PERNIX_SIZE(SpareDiskRec, 8);
+PERNIX_OFFSET(SpareDiskRec, unit_no, 0);
+PERNIX_OFFSET(SpareDiskRec, hdu_no, 4);
+
+enum { PERNIX_SPARE_DISKS = 30 };
+
+/* A unit's RAID group and LU configuration as exported to a file. */
+typedef struct RaidLUInformationRec {
+  RaidGroupInformationRec rgparam;
+  LogicalUnitRec luparam[PERNIX_LOGICAL_UNITS];
+  int32_t spare_count;
+  SpareDiskRec spareinfo[PERNIX_SPARE_DISKS];
+} RaidLUInformationRec;
+PERNIX_SIZE(RaidLUInformationRec, 372576);
+PERNIX_OFFSET(RaidLUInformationRec, rgparam, 0);
+PERNIX_OFFSET(RaidLUInformationRec, luparam, 11884);
+PERNIX_OFFSET(RaidLUInformationRec, spare_count, 372332);
+PERNIX_OFFSET(RaidLUInformationRec, spareinfo, 372336);
+
+/* ---- set-up wizard ---- */
+
+typedef struct WZDualConfigRec {
+  int32_t startup_attr;
+  int32_t data_share;
+  int32_t spare_disk;
+  int32_t connection_mode;
+  char serial[9];
+  uint8_t port_d_ctl[4]; /* Java int[4], one byte each */
+  uint8_t unused[3];
+  int32_t id_taking_over;
+  int32_t port_cnnct_mode1[2][2];
+  int32_t port_cnnct_mode2[2][2];
+  int32_t delay_time;
+  int32_t hp2_support;
+  int32_t add_bat_unit;
+} WZDualConfigRec;
+PERNIX_SIZE(WZDualConfigRec, 80);
+PERNIX_OFFSET(WZDualConfigRec, startup_attr, 0);
+PERNIX_OFFSET(WZDualConfigRec, data_share, 4);
+PERNIX_OFFSET(WZDualConfigRec, spare_disk, 8);
+PERNIX_OFFSET(WZDualConfigRec, connection_mode, 12);
+PERNIX_OFFSET(WZDualConfigRec, serial, 16);
+PERNIX_OFFSET(WZDualConfigRec, port_d_ctl, 25);
+PERNIX_OFFSET(WZDualConfigRec, unused, 29);
+PERNIX_OFFSET(WZDualConfigRec, id_taking_over, 32);
+PERNIX_OFFSET(WZDualConfigRec, port_cnnct_mode1, 36);
+PERNIX_OFFSET(WZDualConfigRec, port_cnnct_mode2, 52);
+PERNIX_OFFSET(WZDualConfigRec, delay_time, 68);
+PERNIX_OFFSET(WZDualConfigRec, hp2_support, 72);
+PERNIX_OFFSET(WZDualConfigRec, add_bat_unit, 76);
+
+typedef struct WZDriveCapacityRec {
+  int32_t row[6];
+  int32_t spare;
+} WZDriveCapacityRec;
+PERNIX_SIZE(WZDriveCapacityRec, 28);
+PERNIX_OFFSET(WZDriveCapacityRec, row, 0);
+PERNIX_OFFSET(WZDriveCapacityRec, spare, 24);
+
+/* Options by interface; WZOption, WZEnhancedOption and WZPortOption share it. */
+typedef struct WZOptionRec {
+  int32_t common;
+  int32_t scsi;
+  int32_t fibre;
+} WZOptionRec;
+PERNIX_SIZE(WZOptionRec, 12);
+PERNIX_OFFSET(WZOptionRec, common, 0);
+PERNIX_OFFSET(WZOptionRec, scsi, 4);
+PERNIX_OFFSET(WZOptionRec, fibre, 8);
+
+typedef struct WZTargetLunListRec {
+  uint8_t lun[128];
+} WZTargetLunListRec;
+PERNIX_SIZE(WZTargetLunListRec, 128);
+PERNIX_OFFSET(WZTargetLunListRec, lun, 0);
+
+typedef struct WZTargetConfigRec {
+  int8_t single;
+  uint8_t multi[16];
+  WZTargetLunListRec mapping[16];
+} WZTargetConfigRec;
+PERNIX_SIZE(WZTargetConfigRec, 2065);
+PERNIX_OFFSET(WZTargetConfigRec, single, 0);
+PERNIX_OFFSET(WZTargetConfigRec, multi, 1);
+PERNIX_OFFSET(WZTargetConfigRec, mapping, 17);
+
+typedef struct WZTargetIdRec {
+  int32_t ctrl_flag;
+  int32_t target_id_mode;
+  WZTargetConfigRec target_config[4];
+} WZTargetIdRec;
+PERNIX_SIZE(WZTargetIdRec, 8268);
+PERNIX_OFFSET(WZTargetIdRec, ctrl_flag, 0);
+PERNIX_OFFSET(WZTargetIdRec, target_id_mode, 4);
+PERNIX_OFFSET(WZTargetIdRec, target_config, 8);
+
+typedef struct WZModeParamRec {
+  int32_t striping;
+  int32_t buzzer;
+  int32_t lu_size_report;
+  int32_t reset;
+  int32_t failures;
+} WZModeParamRec;
+PERNIX_SIZE(WZModeParamRec, 20);
+PERNIX_OFFSET(WZModeParamRec, striping, 0);
+PERNIX_OFFSET(WZModeParamRec, buzzer, 4);
+PERNIX_OFFSET(WZModeParamRec, lu_size_report, 8);
+PERNIX_OFFSET(WZModeParamRec, reset, 12);
+PERNIX_OFFSET(WZModeParamRec, failures, 16);
+
+typedef struct WZInquiryRec {
+  int32_t command_que;
+  int32_t ansi_version;
+  int32_t cache_mode;
+  char vendor[9];
+  char product[17];
+  char rom_micro[3];
+  char ram_micro[3];
+  char web_title[33];
+  uint8_t unused[3];
+  int32_t link_separation;
+} WZInquiryRec;
+PERNIX_SIZE(WZInquiryRec, 84);
+PERNIX_OFFSET(WZInquiryRec, command_que, 0);
+PERNIX_OFFSET(WZInquiryRec, ansi_version, 4);
+PERNIX_OFFSET(WZInquiryRec, cache_mode, 8);
+PERNIX_OFFSET(WZInquiryRec, vendor, 12);
+PERNIX_OFFSET(WZInquiryRec, product, 21);
+PERNIX_OFFSET(WZInquiryRec, rom_micro, 38);
+PERNIX_OFFSET(WZInquiryRec, ram_micro, 41);
+PERNIX_OFFSET(WZInquiryRec, web_title, 44);
+PERNIX_OFFSET(WZInquiryRec, unused, 77);
+PERNIX_OFFSET(WZInquiryRec, link_separation, 80);
+
+typedef struct WZPortTypeRec {
+  int32_t port_type;
+  int32_t port_mode[4];
+  WZOptionRec port_option[4];
+} WZPortTypeRec;
+PERNIX_SIZE(WZPortTypeRec, 68);
+PERNIX_OFFSET(WZPortTypeRec, port_type, 0);
+PERNIX_OFFSET(WZPortTypeRec, port_mode, 4);
+PERNIX_OFFSET(WZPortTypeRec, port_option, 20);
+
+typedef struct WZRomResponseRec {
+  int32_t mode;
+  int32_t port_save_data[4];
+} WZRomResponseRec;
+PERNIX_SIZE(WZRomResponseRec, 20);
+PERNIX_OFFSET(WZRomResponseRec, mode, 0);
+PERNIX_OFFSET(WZRomResponseRec, port_save_data, 4);
+
+typedef struct WZControllerOptionRec {
+  int32_t id_mode;
+  char id_front[9];
+  char id_rear[3];
+  int32_t error_out_mode;
+  int32_t write_verify_mode;
+} WZControllerOptionRec;
+PERNIX_SIZE(WZControllerOptionRec, 24);
+PERNIX_OFFSET(WZControllerOptionRec, id_mode, 0);
+PERNIX_OFFSET(WZControllerOptionRec, id_front, 4);
+PERNIX_OFFSET(WZControllerOptionRec, id_rear, 13);
+PERNIX_OFFSET(WZControllerOptionRec, error_out_mode, 16);
+PERNIX_OFFSET(WZControllerOptionRec, write_verify_mode, 20);
+
+/* The two flags read back unsigned (0 to 255). */
+typedef struct WZLanConfigRec {
+  uint8_t lan_connect;
+  uint8_t dhcp_mode;
+  char ip_address[16];
+  char subnet[16];
+  char gateway[16];
+  char ether[18];
+} WZLanConfigRec;
+PERNIX_SIZE(WZLanConfigRec, 68);
+PERNIX_OFFSET(WZLanConfigRec, lan_connect, 0);
+PERNIX_OFFSET(WZLanConfigRec, dhcp_mode, 1);
+PERNIX_OFFSET(WZLanConfigRec, ip_address, 2);
+PERNIX_OFFSET(WZLanConfigRec, subnet, 18);
+PERNIX_OFFSET(WZLanConfigRec, gateway, 34);
+PERNIX_OFFSET(WZLanConfigRec, ether, 50);
+
+/* `board_type` reads back signed, `rate` unsigned. */
+typedef struct WZSyncPortRec {
+  int8_t board_type;
+  uint8_t rate;
+} WZSyncPortRec;
+PERNIX_SIZE(WZSyncPortRec, 2);
+PERNIX_OFFSET(WZSyncPortRec, board_type, 0);
+PERNIX_OFFSET(WZSyncPortRec, rate, 1);
+
+typedef struct WZSyncControlRec {
+  WZSyncPortRec port_val[4];
+} WZSyncControlRec;
+PERNIX_SIZE(WZSyncControlRec, 8);
+PERNIX_OFFSET(WZSyncControlRec, port_val, 0);
+
+/* The whole initial configuration of a unit; pairs are one per controller. */
+typedef struct WizardParamRec {
+  int32_t fd_backup;
+  WZDualConfigRec dual_conf;
+  WZDriveCapacityRec drive_capacity;
+  WZOptionRec option;
+  WZOptionRec e_option;
+  WZOptionRec e_option2;
+  WZTargetIdRec target_id[2];
+  WZModeParamRec mode_param;
+  WZInquiryRec inquiry;
+  WZPortTypeRec port_type[2];
+  WZRomResponseRec rom_response[2];
+  WZControllerOptionRec ctl_opt[2];
+  WZLanConfigRec lan_conf[2];
+  WZSyncControlRec sync_control[2];
+} WizardParamRec;
+PERNIX_SIZE(WizardParamRec, 17164);
+PERNIX_OFFSET(WizardParamRec, fd_backup, 0);
+PERNIX_OFFSET(WizardParamRec, dual_conf, 4);
+PERNIX_OFFSET(WizardParamRec, drive_capacity, 84);
+PERNIX_OFFSET(WizardParamRec, option, 112);
+PERNIX_OFFSET(WizardParamRec, e_option, 124);
+PERNIX_OFFSET(WizardParamRec, e_option2, 136);
+PERNIX_OFFSET(WizardParamRec, target_id, 148);
+PERNIX_OFFSET(WizardParamRec, mode_param, 16684);
+PERNIX_OFFSET(WizardParamRec, inquiry, 16704);
+PERNIX_OFFSET(WizardParamRec, port_type, 16788);
+PERNIX_OFFSET(WizardParamRec, rom_response, 16924);
+PERNIX_OFFSET(WizardParamRec, ctl_opt, 16964);
+PERNIX_OFFSET(WizardParamRec, lan_conf, 17012);
+PERNIX_OFFSET(WizardParamRec, sync_control, 17148);
+
+typedef struct NowWZPortOptionsRec {
+  int32_t mode[3][2];
+  int32_t hp2_support;
+} NowWZPortOptionsRec;
+PERNIX_SIZE(NowWZPortOptionsRec, 28);
+PERNIX_OFFSET(NowWZPortOptionsRec, mode, 0);
+PERNIX_OFFSET(NowWZPortOptionsRec, hp2_support, 24);
+
+typedef struct NowWZCtrlIdRec {
+  char id_front[9];
+  char id_rear[3];
+  int32_t ctrl_name_mode;
+} NowWZCtrlIdRec;
+PERNIX_SIZE(NowWZCtrlIdRec, 16);
+PERNIX_OFFSET(NowWZCtrlIdRec, id_front, 0);
+PERNIX_OFFSET(NowWZCtrlIdRec, id_rear, 9);
+PERNIX_OFFSET(NowWZCtrlIdRec, ctrl_name_mode, 12);
+
+/* The current port options and controller identifier. */
+typedef struct NowWZParameterRec {
+  int32_t fd_backup;
+  NowWZPortOptionsRec port_option;
+  NowWZCtrlIdRec ctrl_id;
+} NowWZParameterRec;
+PERNIX_SIZE(NowWZParameterRec, 48);
+PERNIX_OFFSET(NowWZParameterRec, fd_backup, 0);
+PERNIX_OFFSET(NowWZParameterRec, port_option, 4);
+PERNIX_OFFSET(NowWZParameterRec, ctrl_id, 32);
+
+/* The LU set-up contents the wizard produced, as text. */
+typedef struct LuWZSetContentsRec {
+  char setcontens[32768];
+} LuWZSetContentsRec;
+PERNIX_SIZE(LuWZSetContentsRec, 32768);
+PERNIX_OFFSET(LuWZSetContentsRec, setcontens, 0);
+
+/* ---- LU cache settings ---- */
+
+/* Staging sizes by RAID level (0, 1, 5), next-read staging and head size. */
+typedef struct PrefetchInformationRec {
+  int32_t stg_rd0;
+  int32_t stg_rd1;
+  int32_t stg_rd5;
+  int32_t stg_next;
+  int32_t stg_hed_size;
+} PrefetchInformationRec;
+PERNIX_SIZE(PrefetchInformationRec, 20);
+PERNIX_OFFSET(PrefetchInformationRec, stg_rd0, 0);
+PERNIX_OFFSET(PrefetchInformationRec, stg_rd1, 4);
+PERNIX_OFFSET(PrefetchInformationRec, stg_rd5, 8);
+PERNIX_OFFSET(PrefetchInformationRec, stg_next, 12);
+PERNIX_OFFSET(PrefetchInformationRec, stg_hed_size, 16);
+
+/* Cache partition numbers indexed by LU number. */
+typedef struct LuCachePartitionRec {
+  int32_t option;
+  int32_t support_index;
+  int32_t valid_index;
+  int32_t current_prt_num[4096];
+  int32_t reserve_prt_num[4096];
+  int32_t now_prt_num[4096];
+  int32_t pair_prt_num[4096];
+} LuCachePartitionRec;
+PERNIX_SIZE(LuCachePartitionRec, 65548);
+PERNIX_OFFSET(LuCachePartitionRec, option, 0);
+PERNIX_OFFSET(LuCachePartitionRec, support_index, 4);
+PERNIX_OFFSET(LuCachePartitionRec, valid_index, 8);
+PERNIX_OFFSET(LuCachePartitionRec, current_prt_num, 12);
+PERNIX_OFFSET(LuCachePartitionRec, reserve_prt_num, 16396);
+PERNIX_OFFSET(LuCachePartitionRec, now_prt_num, 32780);
+PERNIX_OFFSET(LuCachePartitionRec, pair_prt_num, 49164);
+
+typedef struct PrefetchTuningLURangeRec {
+  int32_t multi_stream_read;
+  int32_t multi_stream_write;
+  int32_t next_pre_mode;
+  int32_t pre_std;
+} PrefetchTuningLURangeRec;
+PERNIX_SIZE(PrefetchTuningLURangeRec, 16);
+PERNIX_OFFSET(PrefetchTuningLURangeRec, multi_stream_read, 0);
+PERNIX_OFFSET(PrefetchTuningLURangeRec, multi_stream_write, 4);
+PERNIX_OFFSET(PrefetchTuningLURangeRec, next_pre_mode, 8);
+PERNIX_OFFSET(PrefetchTuningLURangeRec, pre_std, 12);
+
+typedef struct PrefetchLUInfoRec {
+  int32_t pre_size_basis;
+  int32_t pre_size_fixation;
+} PrefetchLUInfoRec;
+PERNIX_SIZE(PrefetchLUInfoRec, 8);
+PERNIX_OFFSET(PrefetchLUInfoRec, pre_size_basis, 0);
+PERNIX_OFFSET(PrefetchLUInfoRec, pre_size_fixation, 4);
+
+/* Unit-wide prefetch settings and the same per LU; `setting_range` says
+ * which of the two applies. */
+typedef struct PrefetchTuningRec {
+  int32_t support_index;
+  int32_t valid_index;
+  int32_t set_mode;
+  int32_t setting_range;
+  int32_t multi_stream_read;
+  int32_t multi_stream_write;
+  int32_t seq_count;
+  int32_t next_pre_mode;
+  int32_t pre_std;
+  PrefetchTuningLURangeRec lu_range[4096];
+  PrefetchLUInfoRec lu[4096];
+} PrefetchTuningRec;
+PERNIX_SIZE(PrefetchTuningRec, 98340);
+PERNIX_OFFSET(PrefetchTuningRec, support_index, 0);
+PERNIX_OFFSET(PrefetchTuningRec, valid_index, 4);
+PERNIX_OFFSET(PrefetchTuningRec, set_mode, 8);
+PERNIX_OFFSET(PrefetchTuningRec, setting_range, 12);
+PERNIX_OFFSET(PrefetchTuningRec, multi_stream_read, 16);
+PERNIX_OFFSET(PrefetchTuningRec, multi_stream_write, 20);
+PERNIX_OFFSET(PrefetchTuningRec, seq_count, 24);
+PERNIX_OFFSET(PrefetchTuningRec, next_pre_mode, 28);
+PERNIX_OFFSET(PrefetchTuningRec, pre_std, 32);
+PERNIX_OFFSET(PrefetchTuningRec, lu_range, 36);
+PERNIX_OFFSET(PrefetchTuningRec, lu, 65572);
+
+/* The controller-resident ("turbo") LU of one controller. */
+typedef struct TurboLuInfoRec {
+  int32_t current_status;
+  int32_t current_assign;
+  int32_t current_lun;
+  int32_t reserve_assign;
+  int32_t reserve_lun;
+} TurboLuInfoRec;
+PERNIX_SIZE(TurboLuInfoRec, 20);
+PERNIX_OFFSET(TurboLuInfoRec, current_status, 0);
+PERNIX_OFFSET(TurboLuInfoRec, current_assign, 4);
+PERNIX_OFFSET(TurboLuInfoRec, current_lun, 8);
+PERNIX_OFFSET(TurboLuInfoRec, reserve_assign, 12);
+PERNIX_OFFSET(TurboLuInfoRec, reserve_lun, 16);
+
+typedef struct TurboLuRec {
+  int32_t option;
+  TurboLuInfoRec ctl[2];
+} TurboLuRec;
+PERNIX_SIZE(TurboLuRec, 44);
+PERNIX_OFFSET(TurboLuRec, option, 0);
+PERNIX_OFFSET(TurboLuRec, ctl, 4);
+
+#pragma pack(pop)
+
+PERNIX_BEGIN_DECLS
+
+/* pools, virtual volumes and unified LUs */
+int KX_GetPoolInformation(const char* unit, const KXSessionInfoRec* session, PoolInfoRec* info);
+int KX_ChangePoolInformation(const char* unit, const KXSessionInfoRec* session,
+                             const ChgPoolInfoRec* change);
+int KX_PoolLUAdd(const char* unit, const KXSessionInfoRec* session, int a, int b, int c);
+int KX_PoolLUAddList(const char* unit, const KXSessionInfoRec* session, int a, int b,
+                     const PoolLuAddListRec* list);
+int KX_PoolLUAllDelete(const char* unit, const KXSessionInfoRec* session, int a, int b);
+int KX_CreateVVOL(const char* unit, const KXSessionInfoRec* session, int a, int b, int c);
+int KX_DeleteVVOL(const char* unit, const KXSessionInfoRec* session, int a, int b);
+int KX_SetIntegrationLU(const char* unit, const KXSessionInfoRec* session,
+                        const IntegrationLUSetRec* set);
+int KX_IntegrationLUInfo(const char* unit, IntegrationLUInfoRec* info);
+int KX_IntegrationLUInfo2(const char* unit, const KXSessionInfoRec* session,
+                          IntegrationLUInfo2Rec* info);
+int KX_GetIntegrationPinInfo(const char* unit, const KXSessionInfoRec* session,
+                             PINInformationRec* info);
+int KX_GetLabelList(KXLabelRec* labels /* [20] */, int* count);
+int KX_GetLabelList2(KXLabelRec* labels /* [64] */, int* count);
+int KX_RaidLuExport(const char* unit, const KXSessionInfoRec* session, const char* path);
+int KX_RaidLuImportEx(const char* unit, const KXSessionInfoRec* session, const char* path,
+                      RaidLUInformationRec* info);
+int KX_RaidLuImport(const char* unit, const char* path, RaidGroupRec* groups /* [90] */,
+                    LogicalUnitRec* lus /* [4096] */);
+
+/* set-up wizard */
+int KX_GetWizardParam(const char* unit, const char* path, int x, WizardParamRec* param);
+int KX_SetWizardParam(const char* unit, const WizardParamRec* param, const char* path, int x);
+int KX_TestWizardParam(const char* unit, const WizardParamRec* param, const char* path, int x);
+int KX_GetNowWZParam(const char* unit, int x, NowWZParameterRec* param);
+int KX_SetNowWZParam(const char* unit, int x, const NowWZParameterRec* param);
+int KX_LuWizardOutput(const char* unit, const KXSessionInfoRec* session, const char* path,
+                      const LuWZSetContentsRec* contents);
+
+/* LU cache settings */
+int KX_GetPrefetchInformation(const char* unit, const KXSessionInfoRec* session,
+                              PrefetchInformationRec* info);
+int KX_SetPrefetchInformation(const char* unit, const KXSessionInfoRec* session,
+                              const PrefetchInformationRec* info);
+int KX_GetLuCachePartition(const char* unit, const KXSessionInfoRec* session,
+                           LuCachePartitionRec* partition);
+int KX_SetLuCachePartition(const char* unit, const KXSessionInfoRec* session,
+                           const LuCachePartitionRec* partition);
+int KX_GetPrefetchTuning(const char* unit, const KXSessionInfoRec* session,
+                         PrefetchTuningRec* tuning);
+int KX_SetPrefetchTuning(const char* unit, const KXSessionInfoRec* session,
+                         const PrefetchTuningRec* tuning);
+int KX_GetTurboLU(const char* unit, const KXSessionInfoRec* session, TurboLuRec* turbo);
+int KX_SetTurboLU(const char* unit, const KXSessionInfoRec* session, const TurboLuRec* turbo);
+
+PERNIX_END_DECLS
+
 /* ==== end of pools, virtual volumes, unified LUs, set-up wizard and LU cache ==== */
 
 #endif

@@ -43,6 +43,8 @@ public final class Bench {
         cases.add(new Cases.GroupInformation());
         cases.add(new SpinDownUpCase());
         // pools, wizard and LU cache
+        cases.add(new PoolCases.UnifiedLus());
+        cases.add(new PoolCases.ConfigurationImport());
 
         // host access
         cases.add(new LuMappingCase());

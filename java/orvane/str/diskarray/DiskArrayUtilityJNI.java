@@ -152,7 +152,36 @@ public class DiskArrayUtilityJNI {
 
 
     // ---- pools, virtual volumes, unified LUs, set-up wizard and LU cache ----
-
+    public native PoolInfo KX_GetPoolInformation(String unitName, KXSessionInfo session);
+    public native void KX_ChangePoolInformation(String unitName, KXSessionInfo session, ChgPoolInfo change);
+    public native void KX_PoolLUAdd(String unitName, KXSessionInfo session, int a, int b, int c);
+    public native void KX_PoolLUAddList(String unitName, KXSessionInfo session, int a, int b, PoolLuAddList list);
+    public native void KX_PoolLUAllDelete(String unitName, KXSessionInfo session, int a, int b);
+    public native void KX_CreateVVOL(String unitName, KXSessionInfo session, int a, int b, int c);
+    public native void KX_DeleteVVOL(String unitName, KXSessionInfo session, int a, int b);
+    public native void KX_SetIntegrationLU(String unitName, KXSessionInfo session, IntegrationLUSet set);
+    public native IntegrationLUInfo KX_IntegrationLUInfo(String unitName);
+    public native IntegrationLUInfo2 KX_IntegrationLUInfo2(String unitName, KXSessionInfo session);
+    public native PINInformation KX_GetIntegrationPinInfo(String unitName, KXSessionInfo session);
+    public native KXLabel[] KX_GetLabelList();
+    public native KXLabel[] KX_GetLabelList2();
+    public native void KX_RaidLuExport(String unitName, KXSessionInfo session, String path);
+    public native RaidLUInformation KX_RaidLuImportEx(String unitName, KXSessionInfo session, String path);
+    public native Object[] KX_RaidLuImport(String unitName, String path);
+    public native WizardParam KX_GetWizardParam(String unitName, String path, int x);
+    public native void KX_SetWizardParam(String unitName, WizardParam param, String path, int x);
+    public native void KX_TestWizardParam(String unitName, WizardParam param, String path, int x);
+    public native NowWZParameter KX_GetNowWZParam(String unitName, int x);
+    public native void KX_SetNowWZParam(String unitName, int x, NowWZParameter param);
+    public native void KX_LuWizardOutput(String unitName, KXSessionInfo session, String path, LuWZSetContents contents);
+    public native PrefetchInformation KX_GetPrefetchInformation(String unitName, KXSessionInfo session);
+    public native void KX_SetPrefetchInformation(String unitName, KXSessionInfo session, PrefetchInformation info);
+    public native LuCachePartition KX_GetLuCachePartition(String unitName, KXSessionInfo session);
+    public native void KX_SetLuCachePartition(String unitName, KXSessionInfo session, LuCachePartition partition);
+    public native PrefetchTuning KX_GetPrefetchTuning(String unitName, KXSessionInfo session);
+    public native void KX_SetPrefetchTuning(String unitName, KXSessionInfo session, PrefetchTuning tuning);
+    public native TurboLu KX_GetTurboLU(String unitName, KXSessionInfo session);
+    public native void KX_SetTurboLU(String unitName, KXSessionInfo session, TurboLu turbo);
     // ---- end of pools, virtual volumes, unified LUs, set-up wizard and LU cache ----
 
 

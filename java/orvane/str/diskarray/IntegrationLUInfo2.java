@@ -1,0 +1,8 @@
+package orvane.str.diskarray;
+
+public class IntegrationLUInfo2 {
+    public int integration_lu;
+    public int parent_count;
+    public int[] parent_lu;
+    public UniteLU2[] unite_info;
+}

@@ -1,0 +1,6 @@
+package orvane.str.diskarray;
+
+public class KXLabel {
+    public String oldlabel;
+    public String newlabel;
+}

@@ -1,0 +1,6 @@
+package orvane.str.diskarray;
+
+public class PoolCtlInfo {
+    public int pool_enable_count;
+    public PoolDetailInfo[] pool;
+}

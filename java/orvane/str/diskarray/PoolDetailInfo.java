@@ -1,0 +1,4 @@
+package orvane.str.diskarray;
+
+public class PoolDetailInfo {
+}

@@ -1,0 +1,6 @@
+package orvane.str.diskarray;
+
+public class PoolInfo {
+    public int option;
+    public PoolCtlInfo[] ctl;
+}

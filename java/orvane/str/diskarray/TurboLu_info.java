@@ -1,0 +1,9 @@
+package orvane.str.diskarray;
+
+public class TurboLu_info {
+    public int current_status;
+    public int current_assign;
+    public int current_lun;
+    public int reserve_assign;
+    public int reserve_lun;
+}

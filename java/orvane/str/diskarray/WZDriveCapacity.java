@@ -1,0 +1,6 @@
+package orvane.str.diskarray;
+
+public class WZDriveCapacity {
+    public int[] row;
+    public int spare;
+}

@@ -1,0 +1,6 @@
+package orvane.str.diskarray;
+
+public class WZRomResponse {
+    public int mode;
+    public int[] port_save_data;
+}

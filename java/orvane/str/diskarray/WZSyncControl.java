@@ -1,0 +1,5 @@
+package orvane.str.diskarray;
+
+public class WZSyncControl {
+    public WZSyncPort[] port_val;
+}
