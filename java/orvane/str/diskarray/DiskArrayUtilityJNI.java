@@ -211,6 +211,30 @@ public class DiskArrayUtilityJNI {
 
 
     // ---- copy pairs, command devices and volume migration ----
+    public native PairInfo KX_GetPairInformation(String unitName, KXSessionInfo session);
+    public native MirrexInformation KX_GetMirrexInformation(String unitName);
+    public native void KX_SplitMirrexPair(String unitName, int value);
+    public native FarsyncPairInformation KX_GetFarsyncPairInformation(String unitName, KXSessionInfo session);
+    public native FarsyncAsyncPairInformation KX_GetFarsyncAsyncPairInformation(String unitName, KXSessionInfo session);
+    public native FarsyncAsyncOption KX_GetFarsyncAsyncOption(String unitName, KXSessionInfo session);
+    public native void KX_SetFarsyncAsyncOption(String unitName, KXSessionInfo session, FarsyncAsyncOption option);
+    public native CommandDevice KX_GetCommandDevice(String unitName, KXSessionInfo session);
+    public native void KX_SetCommandDevice(String unitName, KXSessionInfo session, CommandDevice device);
+    public native DMLUInformation KX_GetDMLU(String unitName, KXSessionInfo session);
+    public native void KX_SetDMLU(String unitName, KXSessionInfo session, DMLUInformation dmlu);
+    public native CouplingInfo KX_GetCouplingInfo(String unitName, KXSessionInfo session);
+    public native RemoteDeviceInformation KX_GetRemoteDeviceInformation(String unitName, KXSessionInfo session);
+    public native void KX_SetRemoteDeviceInformation(String unitName, KXSessionInfo session, RemoteDeviceInformation info);
+    public native void KX_SetSvolDisableMode(String unitName, KXSessionInfo session, int a, int b);
+    public native void KX_AddLuMigrationReserveLU(String unitName, KXSessionInfo session, LuMigrationReserveLU lus);
+    public native void KX_DeleteLuMigrationReserveLU(String unitName, KXSessionInfo session, LuMigrationReserveLU lus);
+    public native void KX_StartLuMigration(String unitName, KXSessionInfo session, RequestLuMigration request);
+    public native void KX_CancelLuMigration(String unitName, KXSessionInfo session, RequestLuMigration request);
+    public native void KX_SplitLuMigration(String unitName, KXSessionInfo session, RequestLuMigration request);
+    public native void KX_SplitLuMigrationFreeOwner(String unitName, KXSessionInfo session, RequestLuMigration request);
+    public native void KX_ChangeCopyPace(String unitName, KXSessionInfo session, RequestLuMigration request);
+    public native LuMigrationState KX_GetLuMigrationState(String unitName, KXSessionInfo session);
+    public native LuMigrationInformation KX_GetLuMigrationInformation(String unitName, KXSessionInfo session);
 
     // ---- end of copy pairs, command devices and volume migration ----
 }
