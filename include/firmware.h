@@ -37,7 +37,7 @@ enum { PERNIX_MICRO_REVISION_SIZE = 12 };
 
 /* ---- enclosure microcode ---- */
 
-/* Revisions of one enclosure controller's microcode parts; each text runs up
+/* Revisions of one enclosure controller's microcode components; each text runs up
  * to the next field. */
 typedef struct ENCRevisionRec {
   int32_t valid_index;
