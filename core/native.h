@@ -55,6 +55,7 @@ inline constexpr Options kNoFlush{.flush = false};
 // ------------------------------------------------------------ argument kinds
 //
 // Each kind may provide: missing() (a required argument is null: 258),
+// missing_after_prepare() (the same, tested once every record is allocated),
 // prepare(env) (copy or allocate; false when memory ran out: 65535),
 // fill(env) (convert the Java input; an int result other than 0 stops the
 // call with that code), arg() (what the library receives) and,
@@ -226,6 +227,13 @@ bool missing(const S& s) {
   if constexpr (requires { s.missing(); }) return s.missing();
   else return false;
 }
+// A kind may be required only once the arguments before it have been
+// prepared: missing_after_prepare() is asked after every allocation.
+template <typename S>
+bool missing_after_prepare(const S& s) {
+  if constexpr (requires { s.missing_after_prepare(); }) return s.missing_after_prepare();
+  else return false;
+}
 template <typename S>
 bool prepare(JNIEnv* env, S& s) {
   if constexpr (ArgKind<S>) return s.prepare(env);
@@ -298,6 +306,7 @@ auto call(JNIEnv* env, const Options& opt, Fn&& fn, S&&... args) -> detail::resu
   bool ready = true;
   ((ready = ready && detail::prepare(env, args)), ...);
   if (!ready) return fail(kNoMemory);
+  if ((detail::missing_after_prepare(args) || ...)) return fail(kNullArgument);
   int filled = kOk;
   ((filled = filled == kOk ? detail::fill(env, args) : filled), ...);
   if (filled != kOk) return fail(filled);

@@ -52,6 +52,9 @@ public final class Bench {
         // statistics and performance
 
         // firmware, copy pairs and migration
+        cases.add(new ReplicationCases.PairInformation());
+        cases.add(new ReplicationCases.MigrationInformation());
+        cases.add(new ReplicationCases.StartMigration());
 
 
         System.out.printf("Bridge natives against the test double of libpernix.so, one warm JVM (%s %s)%n",

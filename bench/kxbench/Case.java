@@ -22,6 +22,8 @@ public abstract class Case {
     private final String fn;
     private final int recordArg;
     protected final byte[] bytes;
+    /** The library answers 256 in the current script (for natives that return nothing). */
+    protected boolean quiet;
 
     /** fn: the library function; recordArg: index of the record it fills; size: the record's bytes. */
     protected Case(String fn, int recordArg, int size) {
@@ -46,6 +48,7 @@ public abstract class Case {
 
     /** Fresh test double serving the record; quiet: the library answers 256 (no conversion). */
     public final void script(boolean quiet) {
+        this.quiet = quiet;
         FakePernix.reset();
         FakePernix.willWrite(fn, recordArg, bytes);
         if (quiet) FakePernix.willReturn(fn, 256);

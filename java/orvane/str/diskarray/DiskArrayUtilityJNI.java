@@ -226,11 +226,64 @@ public class DiskArrayUtilityJNI {
 
 
     // ---- controller and enclosure microcode, boot options ----
+    public native int KX_MicroFileConcat(String unitName, KXSessionInfo session, String path, int value);
+    public native void KX_MicroFileConcat2(String unitName, KXSessionInfo session, String path);
+    public native void KX_MicroFileConcatEx(String unitName, KXSessionInfo session, String path);
+    public native void KX_CancelMicroFileConcat();
+    public native MicroFileInformation KX_GetMicroFileInformation();
+    public native String KX_GetNewMicroRevision();
+    public native int KX_GetMicroDownloadCount(String unitName);
+    public native int KX_GetMicroDownloadCountEx(String unitName, int value);
+    public native void KX_MicroDownload(String unitName, KXSessionInfo session, int a, int b, int c);
+    public native void KX_MicroDownloadEx(String unitName, KXSessionInfo session, int a, int b, int c, int d);
+    public native void KX_MicroReplace(String unitName, KXSessionInfo session, int value);
+    public native MicroReplaceInformation KX_MicroReplaceEx(String unitName, KXSessionInfo session, int value);
+    public native void KX_CompleteMicroReplace(String unitName, KXSessionInfo session, int value);
+    public native void KX_ENCMicroFileConcat(String unitName, KXSessionInfo session, String path);
+    public native void KX_ENCMicroFileConcatEx(String unitName, KXSessionInfo session, String path, int value);
+    public native void KX_CancelENCMicroFileConcat();
+    public native int KX_GetENCMicroDownloadCount(String unitName, KXSessionInfo session);
+    public native int KX_ENCMicroDownload(String unitName, KXSessionInfo session, int a, int b);
+    public native void KX_ENCMicroReplace(String unitName, KXSessionInfo session, int value);
+    public native ENCMicroInformation KX_GetENCMicroInformation();
+    public native ENCMicroInformation KX_GetENCMicroInformationEx(String unitName, KXSessionInfo session);
+    public native ENCStatusList KX_GetENCStatusList(String unitName, KXSessionInfo session);
+    public native ENCDownloadOption KX_GetENCDownloadOption(String unitName, KXSessionInfo session);
+    public native void KX_SetENCDownloadOption(String unitName, KXSessionInfo session, ENCDownloadOption option);
+    public native BootOption KX_GetBootOption(String unitName, KXSessionInfo session);
+    public native void KX_SetBootOption(String unitName, KXSessionInfo session, BootOption option);
+    public native void KX_TestBootOption(String unitName, KXSessionInfo session, BootOption option);
+    public native void KX_BootOptionExport(String unitName, KXSessionInfo session, String path);
+    public native void KX_BootOptionImport(String unitName, KXSessionInfo session, String path);
 
     // ---- end of controller and enclosure microcode, boot options ----
 
 
     // ---- copy pairs, command devices and volume migration ----
+    public native PairInfo KX_GetPairInformation(String unitName, KXSessionInfo session);
+    public native MirrexInformation KX_GetMirrexInformation(String unitName);
+    public native void KX_SplitMirrexPair(String unitName, int value);
+    public native FarsyncPairInformation KX_GetFarsyncPairInformation(String unitName, KXSessionInfo session);
+    public native FarsyncAsyncPairInformation KX_GetFarsyncAsyncPairInformation(String unitName, KXSessionInfo session);
+    public native FarsyncAsyncOption KX_GetFarsyncAsyncOption(String unitName, KXSessionInfo session);
+    public native void KX_SetFarsyncAsyncOption(String unitName, KXSessionInfo session, FarsyncAsyncOption option);
+    public native CommandDevice KX_GetCommandDevice(String unitName, KXSessionInfo session);
+    public native void KX_SetCommandDevice(String unitName, KXSessionInfo session, CommandDevice device);
+    public native DMLUInformation KX_GetDMLU(String unitName, KXSessionInfo session);
+    public native void KX_SetDMLU(String unitName, KXSessionInfo session, DMLUInformation dmlu);
+    public native CouplingInfo KX_GetCouplingInfo(String unitName, KXSessionInfo session);
+    public native RemoteDeviceInformation KX_GetRemoteDeviceInformation(String unitName, KXSessionInfo session);
+    public native void KX_SetRemoteDeviceInformation(String unitName, KXSessionInfo session, RemoteDeviceInformation info);
+    public native void KX_SetSvolDisableMode(String unitName, KXSessionInfo session, int a, int b);
+    public native void KX_AddLuMigrationReserveLU(String unitName, KXSessionInfo session, LuMigrationReserveLU lus);
+    public native void KX_DeleteLuMigrationReserveLU(String unitName, KXSessionInfo session, LuMigrationReserveLU lus);
+    public native void KX_StartLuMigration(String unitName, KXSessionInfo session, RequestLuMigration request);
+    public native void KX_CancelLuMigration(String unitName, KXSessionInfo session, RequestLuMigration request);
+    public native void KX_SplitLuMigration(String unitName, KXSessionInfo session, RequestLuMigration request);
+    public native void KX_SplitLuMigrationFreeOwner(String unitName, KXSessionInfo session, RequestLuMigration request);
+    public native void KX_ChangeCopyPace(String unitName, KXSessionInfo session, RequestLuMigration request);
+    public native LuMigrationState KX_GetLuMigrationState(String unitName, KXSessionInfo session);
+    public native LuMigrationInformation KX_GetLuMigrationInformation(String unitName, KXSessionInfo session);
 
     // ---- end of copy pairs, command devices and volume migration ----
 }

@@ -1,0 +1,10 @@
+package orvane.str.diskarray;
+
+public class FarsyncAsyncOption {
+    public int option;
+    public int support_index;
+    public int valid_index;
+    public int ctrl_flag;
+    public int set_index;
+    public int cycle_time;
+}

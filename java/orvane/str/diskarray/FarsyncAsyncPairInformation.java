@@ -1,0 +1,8 @@
+package orvane.str.diskarray;
+
+public class FarsyncAsyncPairInformation {
+    public int option;
+    public int pair_count;
+    public FarsyncAsyncLuInfo[] lu;
+    public FarsyncAsyncCTGInfo[] ctg;
+}

@@ -1,0 +1,12 @@
+package orvane.str.diskarray;
+
+public class FarsyncLuInfo {
+    public int support_index;
+    public int valid_index;
+    public int lun;
+    public int pair_status;
+    public int pair_attr;
+    public int changed_rate;
+    public String remote_serial;
+    public int remote_lu;
+}

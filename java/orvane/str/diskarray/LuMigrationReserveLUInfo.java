@@ -1,0 +1,6 @@
+package orvane.str.diskarray;
+
+public class LuMigrationReserveLUInfo {
+    public int lun;
+    public int lu_state;
+}

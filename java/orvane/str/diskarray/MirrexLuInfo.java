@@ -1,0 +1,11 @@
+package orvane.str.diskarray;
+
+public class MirrexLuInfo {
+    public int lun;
+    public int pair_status;
+    public int pair_attr;
+    public int changed_rate;
+    public String remote_type;
+    public String remote_serial;
+    public String remote_ldev;
+}

@@ -1,0 +1,6 @@
+package orvane.str.diskarray;
+
+/** Holds its states with another type. */
+public class LuMigrationState {
+    public long[] lun;
+}
