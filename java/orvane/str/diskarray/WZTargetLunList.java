@@ -1,0 +1,5 @@
+package orvane.str.diskarray;
+
+public class WZTargetLunList {
+    public byte[] lun = new byte[128];
+}
