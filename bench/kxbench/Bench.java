@@ -45,6 +45,7 @@ public final class Bench {
         // pools, wizard and LU cache
 
         // host access
+        cases.addAll(HostPortCases.all());
 
         // statistics and performance
 
