@@ -209,6 +209,8 @@ public class HostPortIscsiTest extends BridgeTest {
 
         jni.KX_SetiSCSICHAPUserInformation("u", S, 1, 3, p);
         assertArrayEquals(r.slice(port, CHAP_PORT), FakePernix.arg("KX_SetiSCSICHAPUserInformation", 0, 4));
+        assertArrayEquals(new int[] {1, 3}, new int[] {FakePernix.intArg("KX_SetiSCSICHAPUserInformation", 0, 2),
+            FakePernix.intArg("KX_SetiSCSICHAPUserInformation", 0, 3)});
         assertEquals(0, FakePernix.unwipedReleases(CHAP_PORT));
         // 600 users: 512 are read; the guards after the record stay intact.
         KXiSCSICHAPUserInfo[] more = new KXiSCSICHAPUserInfo[600];
