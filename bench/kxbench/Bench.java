@@ -48,6 +48,7 @@ public final class Bench {
 
         // host access
         cases.add(new LuMappingCase());
+        cases.addAll(HostPortCases.all());
 
         // statistics and performance
 

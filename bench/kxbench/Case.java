@@ -52,7 +52,11 @@ public abstract class Case {
         FakePernix.reset();
         FakePernix.willWrite(fn, recordArg, bytes);
         if (quiet) FakePernix.willReturn(fn, 256);
+        scriptMore();
     }
+
+    /** Scripts further output records of natives that fill more than one. */
+    protected void scriptMore() {}
 
     protected final ByteBuffer le() {
         return ByteBuffer.wrap(bytes).order(ByteOrder.LITTLE_ENDIAN);

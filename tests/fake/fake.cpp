@@ -25,6 +25,7 @@ struct State {
   long fail_at = 0;  // 1-based index of the allocation that fails; 0: none
   std::map<const void*, size_t> live;
   std::vector<std::string> faults;
+  std::map<size_t, long> unwiped;  // released blocks that still held non-zero bytes, by size
 };
 
 State& state() {
@@ -118,6 +119,13 @@ extern "C" __attribute__((visibility("default"))) void pernix_seam_free(void* bl
       break;
     }
   }
+  const uint8_t* body = raw + kGuard;
+  for (size_t i = 0; i < it->second; ++i) {
+    if (body[i] != 0) {
+      ++s.unwiped[it->second];
+      break;
+    }
+  }
   s.live.erase(it);
   std::free(raw);
 }
@@ -171,6 +179,7 @@ FAKE_JNI(void, reset)(JNIEnv*, jclass) {
   s.allocations = 0;
   s.fail_at = 0;
   s.faults.clear();
+  s.unwiped.clear();
   // Blocks still live belong to the test that leaked them; it has been told.
   s.live.clear();
 }
@@ -249,4 +258,10 @@ FAKE_JNI(jstring, faults)(JNIEnv* env, jclass) {
   std::ostringstream out;
   for (const auto& f : state().faults) out << f << '\n';
   return env->NewStringUTF(out.str().c_str());
+}
+
+FAKE_JNI(jint, unwipedReleases)(JNIEnv*, jclass, jint size) {
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  auto it = state().unwiped.find(static_cast<size_t>(size));
+  return it == state().unwiped.end() ? 0 : static_cast<jint>(it->second);
 }

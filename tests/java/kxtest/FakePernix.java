@@ -47,6 +47,9 @@ public final class FakePernix {
     /** Blocks allocated and not yet released. */
     public static native int liveBlocks();
 
+    /** Blocks of size bytes released since reset that still held a non-zero byte (not cleared first). */
+    public static native int unwipedReleases(int size);
+
     /** Release faults seen: double or foreign releases, size mismatches, overwritten guards. */
     public static native String faults();
 }

@@ -211,11 +211,55 @@ public class DiskArrayUtilityJNI {
 
 
     // ---- Fibre Channel ports, WWN security and target IDs ----
+    public native FibreInformation[] KX_GetFibreInformation(String unitName, KXSessionInfo session);
+    public native void KX_SetFibreInformation(String unitName, KXSessionInfo session, FibreInformation ctl0,
+            FibreInformation ctl1);
+    public native WWNInformation KX_GetWWNInformation(String unitName);
+    public native void KX_SetWWNInformation(String unitName, WWNInformation info);
+    public native WWNHGInformation KX_GetWWNHGInformation(String unitName, KXSessionInfo session);
+    public native void KX_SetWWNHGInformation(String unitName, KXSessionInfo session, WWNHGInformation info);
+    public native PortOption KX_GetPortOption(String unitName, KXSessionInfo session);
+    public native void KX_SetPortOption(String unitName, KXSessionInfo session, PortOption option);
+    public native TargetId[] KX_GetTargetId(String unitName, int a);
+    public native void KX_SetTargetId(String unitName, int a, TargetId target, int b);
+    public native TargetId[] KX_TargetIdImport(String unitName, String file);
+    public native WZTargetId[] KX_WZTargetIdImport(String unitName, String file1, String file2, int a);
 
     // ---- end of Fibre Channel ports, WWN security and target IDs ----
 
 
     // ---- iSCSI, CHAP and LU guard ----
+    public native KXiSCSIPortInformation KX_GetiSCSIPortInformation(String unitName, KXSessionInfo session);
+    public native void KX_SetiSCSIPortInformation(String unitName, KXSessionInfo session, KXiSCSIPortInformation info);
+    public native KXiSCSITargetInformationAll KX_GetiSCSITargetInformationAll(String unitName,
+            KXSessionInfo session);
+    public native void KX_CreateiSCSITarget(String unitName, KXSessionInfo session, int a, int b, int c,
+            KXiSCSITargetInfo target);
+    public native void KX_ChangeiSCSITarget(String unitName, KXSessionInfo session, int a, int b, int c,
+            KXiSCSITargetInfo target);
+    public native void KX_DeleteiSCSITarget(String unitName, KXSessionInfo session, int a, int b,
+            DeleteiSCSITarget list);
+    public native void KX_InitiSCSITarget(String unitName, KXSessionInfo session, int a, int b);
+    public native void KX_ChangeiSCSITargetSecurity(String unitName, KXSessionInfo session, int a, int b, int c);
+    public native KXiSCSIInitiatorInformationAll KX_GetiSCSIInitiatorInformationAll(String unitName,
+            KXSessionInfo session);
+    public native void KX_SetiSCSIInitiatortInformation(String unitName, KXSessionInfo session, int a, int b,
+            KXiSCSIInitiatorPortInfo port);
+    public native KXiSCSILoginInitiatorInformationAll KX_GetiSCSILoginInitiatorInformationAll(String unitName,
+            KXSessionInfo session);
+    public native KXiSCSICHAPUserInformationAll KX_GetiSCSICHAPUserInformationAll(String unitName,
+            KXSessionInfo session);
+    public native void KX_SetiSCSICHAPUserInformation(String unitName, KXSessionInfo session, int a, int b,
+            KXiSCSICHAPUserPortInfo port);
+    public native void KX_iSCSICHAPUserImport(String unitName, KXSessionInfo session, String file);
+    public native KXiSNSInformation KX_GetiSNSInformation(String unitName, KXSessionInfo session);
+    public native void KX_SetiSNSInformation(String unitName, KXSessionInfo session, KXiSNSInformation info);
+    public native void KX_RequestiSCSIPing(String unitName, KXSessionInfo session, KXiSCSIPing ping);
+    public native KXiSCSIPing KX_GetiSCSIPingStatus(String unitName, KXSessionInfo session);
+    public native LuGuardInformation KX_GetLuGuardInformation(String unitName, KXSessionInfo session);
+    public native void KX_SetLuAccessLevel(String unitName, KXSessionInfo session, LuAccessLevel level);
+    public native void KX_ExtendRetentionTerm(String unitName, KXSessionInfo session, int a, int b);
+    public native void KX_SetExpirationLock(String unitName, KXSessionInfo session, int a);
 
     // ---- end of iSCSI, CHAP and LU guard ----
 

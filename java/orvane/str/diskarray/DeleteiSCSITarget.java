@@ -1,0 +1,5 @@
+package orvane.str.diskarray;
+
+public class DeleteiSCSITarget {
+    public int[] delete_target;
+}

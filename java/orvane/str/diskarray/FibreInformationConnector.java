@@ -1,0 +1,5 @@
+package orvane.str.diskarray;
+
+public class FibreInformationConnector {
+    public int topology_ref;
+}

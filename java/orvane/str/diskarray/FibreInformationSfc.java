@@ -1,0 +1,10 @@
+package orvane.str.diskarray;
+
+public class FibreInformationSfc {
+    public String biu;
+    public String sequence;
+    public String oper_firmware;
+    public String post_firmware;
+    public String endec;
+    public String fc_ph;
+}

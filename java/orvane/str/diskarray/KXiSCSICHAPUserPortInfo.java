@@ -1,0 +1,9 @@
+package orvane.str.diskarray;
+
+public class KXiSCSICHAPUserPortInfo {
+    public int port_valid;
+    public int security;
+    public int user_max_count;
+    public int user_count;
+    public KXiSCSICHAPUserInfo[] user;
+}

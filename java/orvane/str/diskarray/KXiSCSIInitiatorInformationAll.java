@@ -1,0 +1,6 @@
+package orvane.str.diskarray;
+
+public class KXiSCSIInitiatorInformationAll {
+    public int option;
+    public KXiSCSIInitiatorCTLInfo[] ctl;
+}

@@ -1,0 +1,12 @@
+package orvane.str.diskarray;
+
+public class KXiSCSITargetInfo {
+    public int target_valid;
+    public String target_name;
+    public String iscsi_name;
+    public int authmethod;
+    public int algorithm;
+    public int auth;
+    public String user_name;
+    public String secret;
+}

@@ -1,0 +1,14 @@
+package orvane.str.diskarray;
+
+public class LuGuard {
+    public int lu_valid;
+    public int capacity;
+    public int access_level_valid;
+    public int access_level_status;
+    public int access_level;
+    public int svol_disable;
+    public int access_inhibit_mode;
+    public int access_attr;
+    public int changeable_attr;
+    public int retention_term;
+}

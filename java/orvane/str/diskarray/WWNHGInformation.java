@@ -1,0 +1,6 @@
+package orvane.str.diskarray;
+
+public class WWNHGInformation {
+    public int lun_manage;
+    public WWNHGCtlInfo[] ctl;
+}

@@ -1,0 +1,9 @@
+package orvane.str.diskarray;
+
+public class WWNHostInfo {
+    public String node_name;
+    public String port_name;
+    public int hostflag;
+    public int hg_number;
+    public String wname;
+}
