@@ -14,7 +14,10 @@ if [ ! -x "$home/bin/java" ]; then
   mkdir -p "$dir/download"
   chmod 755 "$dir" "$dir/download"
   echo "jre-i386: fetching $pkg"
-  if ! (cd "$dir/download" && apt-get download -q -o APT::Sandbox::User=root "$pkg"); then
+  fetch() { (cd "$dir/download" && apt-get download -q -o APT::Sandbox::User=root "$pkg"); }
+  # An index older than the archive names a file no longer there: refresh it once.
+  if ! fetch && ! { echo "jre-i386: refreshing the package indexes";
+                    $([ "$(id -u)" -ne 0 ] && echo sudo) apt-get update -qq || true; fetch; }; then
     echo "jre-i386: cannot download $pkg: is the i386 architecture enabled and its index fetched?" \
          "(bash scripts/deps.sh does both)" >&2
     exit 1

@@ -41,7 +41,7 @@ trap 'rm -f "$log"' EXIT
 LD_LIBRARY_PATH="$(dirname "$fake")${LD_LIBRARY_PATH:+:$LD_LIBRARY_PATH}" \
   "$java" -Xcheck:jni -ea -Dkx.library="$bridge" -Dkx.fake="$fake" -Dkx.seam="$seam_prop" \
   -Dkx.probe="$(dirname "$fake")/libkxprobe.so" -XX:ErrorFile="${TMPDIR:-/tmp}/kx_hs_err_%p.log" \
-  -cp "$cp" org.junit.runner.JUnitCore "$@" 2>&1 | tee "$log"
+  -cp "$cp" kxtest.Runner "$@" 2>&1 | tee "$log"
 rc=${PIPESTATUS[0]}
 if grep -qE 'WARNING in native method|FATAL ERROR|WARNING: JNI|Warning: JNI' "$log"; then
   echo "run_jvm: the JVM reported JNI misuse (see above)"
