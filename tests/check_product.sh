@@ -9,6 +9,7 @@ bad() { echo "product: $*"; fail=1; }
 
 [ -f "$lib" ] || { echo "product: $lib not built (run the build command first)"; exit 1; }
 file -L "$lib" | grep -q 'ELF 32-bit LSB shared object, Intel 80386' || bad "not an i386 shared object: $(file -L "$lib")"
+file -L "$lib" | grep -q ', stripped' || bad "not stripped: $(file -L "$lib")"
 
 expected=$(grep -oE 'Java_orvane_str_diskarray_DiskArrayUtilityJNI_[A-Za-z0-9_]+' "$header" | sort -u)
 exported=$(nm -D --defined-only "$lib" | awk '{print $3}' | sort -u)

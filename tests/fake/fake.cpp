@@ -238,7 +238,7 @@ FAKE_JNI(jboolean, isNull)(JNIEnv* env, jclass, jstring fn, jint call, jint arg)
   return a != nullptr && a->is_null ? JNI_TRUE : JNI_FALSE;
 }
 
-FAKE_JNI(void, failAllocation)(JNIEnv*, jclass, jint k) {
+FAKE_JNI(void, failAllocationAt)(JNIEnv*, jclass, jint k) {
   std::lock_guard<std::recursive_mutex> lock(state().mu);
   state().fail_at = k;
 }
