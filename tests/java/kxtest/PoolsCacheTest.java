@@ -119,6 +119,10 @@ public class PoolsCacheTest extends BridgeTest {
         assertFields(t.ctl[1], 2, TURBO_INFO);
         jni.KX_SetTurboLU(null, S, t);
         assertArrayEquals(rec.bytes(), FakePernix.arg("KX_SetTurboLU", 0, 2));
+        // A null session goes as a cleared record.
+        jni.KX_SetTurboLU("u", null, t);
+        assertArrayEquals(new byte[32], FakePernix.arg("KX_SetTurboLU", 1, 1));
+        assertArrayEquals(rec.bytes(), FakePernix.arg("KX_SetTurboLU", 1, 2));
 
         FakePernix.willReturn("KX_GetTurboLU", 3);
         assertEquals(3, code(() -> jni.KX_GetTurboLU("u", S)));

@@ -232,9 +232,13 @@ public class PoolsTest extends BridgeTest {
                 got[2].newlabel});
         assertEquals(0, FakePernix.allocations());
 
-        // A count of 0 is an empty array; a count past the table leaves the rest null.
+        // A count of 0 is an empty array; a count past the table (20 or 64) leaves the rest null.
         FakePernix.willWriteInt("KX_GetLabelList", 1, 0);
         assertEquals(0, jni.KX_GetLabelList().length);
+        FakePernix.willWriteInt("KX_GetLabelList", 1, 21);
+        KXLabel[] one = jni.KX_GetLabelList();
+        assertEquals("new19", one[19].newlabel);
+        assertNull(one[20]);
         FakePernix.willWrite("KX_GetLabelList2", 0, labels(64, 64).bytes());
         FakePernix.willWriteInt("KX_GetLabelList2", 1, 70);
         KXLabel[] two = jni.KX_GetLabelList2();
