@@ -2,6 +2,7 @@
 // older WWN permission table, WWN-to-host-group assignment, port options and
 // target IDs read, written or imported from files.
 #include "host/records.h"
+#include "raid/records.h"
 
 using namespace kx;
 
@@ -78,7 +79,7 @@ KX_NATIVE(jobjectArray, TargetIdImport, jstring unit, jstring file) {
 }
 
 KX_NATIVE(jobjectArray, WZTargetIdImport, jstring unit, jstring file1, jstring file2, jint a) {
-  ControllerPair<TargetIdRec> ctl(rec::WZTargetId);
+  ControllerPair<WZTargetIdRec> ctl(rec::WZTargetId);
   return call(env, KX_WZTargetIdImport, Unit(unit), Path(file1), Path(file2), a, ctl,
-              SecondController<TargetIdRec>{ctl});
+              SecondController<WZTargetIdRec>{ctl});
 }

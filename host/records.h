@@ -285,8 +285,8 @@ KX_RECORD(PortOption, PortOptionRec,
           KX_RECORDS(ctl, kx::rec::PortOptionCtlInfo));
 
 // ---- target IDs: `single` is a signed byte; every configuration carries
-// its 16 LUN lists.  The WZ classes (imported from a pair of files) share the
-// C layout.
+// its 16 LUN lists.  The WZ classes imported from a pair of files are the
+// set-up wizard's own records (raid/records.h), of the same layout.
 
 KX_RECORD(TargetLunList, TargetLunListRec,
           KX_BYTES(lun));
@@ -300,19 +300,6 @@ KX_RECORD(TargetId, TargetIdRec,
           KX_INT(ctrl_flag),
           KX_INT(target_id_mode),
           KX_RECORDS(target_config, kx::rec::TargetConfig));
-
-KX_RECORD(WZTargetLunList, TargetLunListRec,
-          KX_BYTES(lun));
-
-KX_RECORD(WZTargetConfig, TargetConfigRec,
-          KX_BYTE(single),
-          KX_BYTES(multi),
-          KX_RECORDS(mapping, kx::rec::WZTargetLunList));
-
-KX_RECORD(WZTargetId, TargetIdRec,
-          KX_INT(ctrl_flag),
-          KX_INT(target_id_mode),
-          KX_RECORDS(target_config, kx::rec::WZTargetConfig));
 
 KX_CONVERTERS(FibreInformationConnector, FibreInformationConnector, FibreInformationConnectorRec)
 KX_CONVERTERS(FibreInformationPort, FibreInformationPort, FibreInformationPortRec)
@@ -333,9 +320,6 @@ KX_CONVERTERS(PortOption, PortOption, PortOptionRec)
 KX_CONVERTERS(TargetLunList, TargetLunList, TargetLunListRec)
 KX_CONVERTERS(TargetConfig, TargetConfig, TargetConfigRec)
 KX_CONVERTERS(TargetId, TargetId, TargetIdRec)
-KX_WRITER(WZTargetLunList, TargetLunListRec)
-KX_WRITER(WZTargetConfig, TargetConfigRec)
-KX_WRITER(WZTargetId, TargetIdRec)
 
 // ==== end of Fibre Channel ports, WWN security and target IDs ====
 

@@ -637,8 +637,11 @@ int KX_SetPortOption(const char* unit, const KXSessionInfoRec* session, const Po
 int KX_GetTargetId(const char* unit, int a, TargetIdRec* ctl0, TargetIdRec* ctl1);
 int KX_SetTargetId(const char* unit, int a, const TargetIdRec* target, int b);
 int KX_TargetIdImport(const char* unit, const char* file, TargetIdRec* ctl0, TargetIdRec* ctl1);
+/* The imported pair is held in the set-up wizard's records (raid.h), of the
+ * same layout as TargetIdRec. */
+struct WZTargetIdRec;
 int KX_WZTargetIdImport(const char* unit, const char* file1, const char* file2, int a,
-                        TargetIdRec* ctl0, TargetIdRec* ctl1);
+                        struct WZTargetIdRec* ctl0, struct WZTargetIdRec* ctl1);
 
 PERNIX_END_DECLS
 

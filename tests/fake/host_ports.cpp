@@ -1,5 +1,6 @@
 #include "fake.h"
 #include "host.h"
+#include "raid.h"
 
 // ---- Fibre Channel ports, WWN security and target IDs
 PERNIX_FAKE(KX_GetFibreInformation, Str<65>, In<KXSessionInfoRec>, Out<FibreInformationRec>,
@@ -15,7 +16,8 @@ PERNIX_FAKE(KX_SetPortOption, Str<65>, In<KXSessionInfoRec>, In<PortOptionRec>)
 PERNIX_FAKE(KX_GetTargetId, Str<65>, Int, Out<TargetIdRec>, Out<TargetIdRec>)
 PERNIX_FAKE(KX_SetTargetId, Str<65>, Int, In<TargetIdRec>, Int)
 PERNIX_FAKE(KX_TargetIdImport, Str<65>, Str<1024>, Out<TargetIdRec>, Out<TargetIdRec>)
-PERNIX_FAKE(KX_WZTargetIdImport, Str<65>, Str<1024>, Str<1024>, Int, Out<TargetIdRec>, Out<TargetIdRec>)
+PERNIX_FAKE(KX_WZTargetIdImport, Str<65>, Str<1024>, Str<1024>, Int, Out<WZTargetIdRec>,
+            Out<WZTargetIdRec>)
 
 // ---- iSCSI ports, targets, initiators and CHAP
 PERNIX_FAKE(KX_GetiSCSIPortInformation, Str<65>, In<KXSessionInfoRec>, Out<KXiSCSIPortInformationRec>)
