@@ -59,6 +59,12 @@ void record(Call& call, const void* p, size_t size) {
   call.args.push_back(std::move(a));
 }
 
+void record_pointee(Call& call, const void* p, size_t size) {
+  Call scratch{call.fn, {}};
+  record(scratch, p, size);
+  call.args.back().pointees.push_back(std::move(scratch.args.back()));
+}
+
 void record_int(Call& call, int32_t value) {
   Arg a;
   a.value = value;
@@ -69,6 +75,12 @@ void serve(const char* fn, size_t index, void* p, size_t size) {
   auto it = state().outputs.find({fn, index});
   if (it == state().outputs.end() || p == nullptr) return;
   std::memcpy(p, it->second.data(), std::min(size, it->second.size()));
+}
+
+void serve_at(const char* fn, size_t index, size_t offset, void* p, size_t size) {
+  auto it = state().outputs.find({fn, index});
+  if (it == state().outputs.end() || p == nullptr || it->second.size() <= offset) return;
+  std::memcpy(p, it->second.data() + offset, std::min(size, it->second.size() - offset));
 }
 
 int finish(const char* fn) {
@@ -214,6 +226,22 @@ FAKE_JNI(jbyteArray, arg)(JNIEnv* env, jclass, jstring fn, jint call, jint arg) 
   jbyteArray out = env->NewByteArray(static_cast<jsize>(a->bytes.size()));
   env->SetByteArrayRegion(out, 0, static_cast<jsize>(a->bytes.size()),
                           reinterpret_cast<const jbyte*>(a->bytes.data()));
+  return out;
+}
+
+FAKE_JNI(jbyteArray, pointee)(JNIEnv* env, jclass, jstring fn, jint call, jint arg, jint k) {
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  const fake::Arg* a = find_arg(env, fn, call, arg);
+  if (a == nullptr) return nullptr;
+  if (k < 0 || static_cast<size_t>(k) >= a->pointees.size()) {
+    env->ThrowNew(env->FindClass("java/lang/IllegalArgumentException"), "no such pointee");
+    return nullptr;
+  }
+  const fake::Arg& p = a->pointees[static_cast<size_t>(k)];
+  if (p.is_null) return nullptr;
+  jbyteArray out = env->NewByteArray(static_cast<jsize>(p.bytes.size()));
+  env->SetByteArrayRegion(out, 0, static_cast<jsize>(p.bytes.size()),
+                          reinterpret_cast<const jbyte*>(p.bytes.data()));
   return out;
 }
 

@@ -34,6 +34,12 @@ public final class FakePernix {
     /** Bytes of pointer argument arg of the call'th call (0-based) of fn, as handed over; null for a null pointer. */
     public static native byte[] arg(String fn, int call, int arg);
 
+    /**
+     * Bytes of the k-th buffer (0-based, in the record's order) that pointers inside record argument arg lead
+     * to, as handed over; null for a null pointer.
+     */
+    public static native byte[] pointee(String fn, int call, int arg, int k);
+
     public static native int intArg(String fn, int call, int arg);
 
     public static native boolean isNull(String fn, int call, int arg);
