@@ -24,6 +24,8 @@ struct State {
   long allocations = 0;
   long fail_at = 0;  // 1-based index of the allocation that fails; 0: none
   std::map<const void*, size_t> live;
+  size_t live_bytes = 0;
+  size_t peak_bytes = 0;  // most bytes live at once since reset
   std::vector<std::string> faults;
 };
 
@@ -106,6 +108,8 @@ extern "C" __attribute__((visibility("default"))) void* pernix_seam_alloc(size_t
   std::memset(raw + kGuard, 0, bytes);
   std::memset(raw + kGuard + bytes, kGuardByte, kGuard);
   s.live[raw + kGuard] = bytes;
+  s.live_bytes += bytes;
+  s.peak_bytes = std::max(s.peak_bytes, s.live_bytes);
   return raw + kGuard;
 }
 
@@ -130,6 +134,7 @@ extern "C" __attribute__((visibility("default"))) void pernix_seam_free(void* bl
       break;
     }
   }
+  s.live_bytes -= it->second;
   s.live.erase(it);
   std::free(raw);
 }
@@ -185,6 +190,8 @@ FAKE_JNI(void, reset)(JNIEnv*, jclass) {
   s.faults.clear();
   // Blocks still live belong to the test that leaked them; it has been told.
   s.live.clear();
+  s.live_bytes = 0;
+  s.peak_bytes = 0;
 }
 
 FAKE_JNI(void, willReturn)(JNIEnv* env, jclass, jstring fn, jint code) {
@@ -270,6 +277,11 @@ FAKE_JNI(jint, allocations)(JNIEnv*, jclass) {
 FAKE_JNI(jint, liveBlocks)(JNIEnv*, jclass) {
   std::lock_guard<std::recursive_mutex> lock(state().mu);
   return static_cast<jint>(state().live.size());
+}
+
+FAKE_JNI(jlong, peakBytes)(JNIEnv*, jclass) {
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  return static_cast<jlong>(state().peak_bytes);
 }
 
 FAKE_JNI(jstring, faults)(JNIEnv* env, jclass) {

@@ -53,6 +53,9 @@ public final class FakePernix {
     /** Blocks allocated and not yet released. */
     public static native int liveBlocks();
 
+    /** Most bytes of the bridge's blocks live at once since reset. */
+    public static native long peakBytes();
+
     /** Release faults seen: double or foreign releases, size mismatches, overwritten guards. */
     public static native String faults();
 }

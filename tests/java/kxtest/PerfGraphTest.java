@@ -74,7 +74,7 @@ public class PerfGraphTest extends BridgeTest {
         assertEquals(-8, code(() -> jni.KX_PerformanceOutputGraphInfo("unit", null, null)));
         assertEquals(258, code(() -> jni.KX_PerformanceOutputGraphInfo(null, null, null)));
         assertEquals(2, FakePernix.calls(fn));
-        PerformanceOutputGraphInfo in = request(1);
+        PerformanceOutputGraphInfo in = new PerformanceOutputGraphInfo();
         assertEachAllocationFailureReported(() -> jni.KX_PerformanceOutputGraphInfo("unit", null, in));
         assertEquals("session, request, four snapshots, graph record, two graphs", 9, countAllocations(
             () -> jni.KX_PerformanceOutputGraphInfo("unit", null, null)));

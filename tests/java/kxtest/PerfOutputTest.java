@@ -123,6 +123,7 @@ public class PerfOutputTest extends BridgeTest {
     @Test
     public void aShortSelectionArrayStopsTheRequestAndItsExceptionReachesJavaUnlessTheLibraryFails() throws Throwable {
         PerformanceOutputInfo info = outputInfo();
+        info.preinfo0 = info.afterinfo0 = info.preinfo1 = info.afterinfo1 = null;  // not needed here
         info.lu = new byte[10];
         String fn = "KX_PerformanceOutputAll";
         assertEquals(ArrayIndexOutOfBoundsException.class, thrown(() -> jni.KX_PerformanceOutputAll("u", info)).getClass());
@@ -164,6 +165,7 @@ public class PerfOutputTest extends BridgeTest {
         assertArrayEquals(new int[] {3, 4, 5}, new int[] {r.i32(name + P), r.i32(name + P + 4), r.i32(name + P + 8)});
         assertSnapshots(fn, 2, 40);
         assertCString("/var/perf/out.dat", 1024, FakePernix.pointee(fn, 0, 2, 4));
+        info.preinfo0 = info.afterinfo0 = info.preinfo1 = info.afterinfo1 = null;
         assertEachAllocationFailureReported(() -> jni.KX_PerformanceOutputAllEx("u", null, info));
     }
 
