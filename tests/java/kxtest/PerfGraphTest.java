@@ -20,7 +20,7 @@ public class PerfGraphTest extends BridgeTest {
 
     static PerformanceOutputGraphInfo request(int seed) {
         PerformanceOutputGraphInfo in = new PerformanceOutputGraphInfo();
-        PerformanceAll[] s = PerfOutputTest.snapshots(seed);
+        PerformanceAll[] s = PerfOutputTest.snapshots(seed, false);
         in.preinfo0 = s[0];
         in.afterinfo0 = s[1];
         in.preinfo1 = s[2];
@@ -47,7 +47,7 @@ public class PerfGraphTest extends BridgeTest {
 
         assertArrayEquals(SessionTest.session(4).session_id, FakePernix.arg(fn, 0, 1));
         assertEquals(4 * P, FakePernix.arg(fn, 0, 2).length);
-        PerfOutputTest.assertSnapshots(fn, 2, 50);
+        PerfOutputTest.assertSnapshots(fn, 2, 50, false);
         assertEquals(2 * P, FakePernix.arg(fn, 0, 3).length);
         assertArrayEquals("graphs handed over zero-filled", new byte[GRAPH], FakePernix.pointee(fn, 0, 3, 1));
 

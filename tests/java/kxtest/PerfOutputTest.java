@@ -69,23 +69,37 @@ public class PerfOutputTest extends BridgeTest {
         return out;
     }
 
-    static PerformanceAll[] snapshots(int seed) {
+    /**
+     * Four snapshots told apart by their first words; the first one full (every field patterned) when
+     * full is set, the others without arrays, so that their conversion stops early.
+     */
+    static PerformanceAll[] snapshots(int seed, boolean full) {
         PerformanceAll[] s = new PerformanceAll[4];
-        for (int k = 0; k < 4; k++) s[k] = PerfTree.patterned(PerformanceAll.class, seed + k);
+        for (int k = 0; k < 4; k++) {
+            if (full && k == 0) {
+                s[k] = PerfTree.patterned(PerformanceAll.class, seed);
+            } else {
+                s[k] = new PerformanceAll();
+                s[k].valid = seed + k;
+                s[k].support = -(seed + k);
+                s[k].get_status = 0x100 * k;
+            }
+        }
         return s;
     }
 
-    static void assertSnapshots(String fn, int arg, int seed) {
+    static void assertSnapshots(String fn, int arg, int seed, boolean full) {
         for (int k = 0; k < 4; k++) {
-            assertArrayEquals("snapshot " + k, PerfTree.pattern(PerformanceAll.class, ALL, seed + k, true),
-                FakePernix.pointee(fn, 0, arg, k));
+            byte[] want = full && k == 0 ? PerfTree.pattern(PerformanceAll.class, ALL, seed, true)
+                : Rec.of(ALL).i32(0, seed + k).i32(4, -(seed + k)).i32(8, 0x100 * k).bytes();
+            assertArrayEquals("snapshot " + k, want, FakePernix.pointee(fn, 0, arg, k));
         }
     }
 
     static PerformanceOutputInfo outputInfo() throws ReflectiveOperationException {
         PerformanceOutputInfo info = new PerformanceOutputInfo();
         info.ctl = new byte[] {1, (byte) 0xFE};
-        PerformanceAll[] s = snapshots(20);
+        PerformanceAll[] s = snapshots(20, true);
         info.preinfo0 = s[0];
         info.afterinfo0 = s[1];
         info.preinfo1 = s[2];
@@ -110,7 +124,7 @@ public class PerfOutputTest extends BridgeTest {
         assertTrue("padding", r.zero(2, PTRS - 2) && r.zero(SEL + 5100, name - SEL - 5100));
         assertArrayEquals(selection(5), r.slice(SEL, 5100));
         assertArrayEquals(new int[] {7, -2, 0x10000}, new int[] {r.i32(name + P), r.i32(name + P + 4), r.i32(name + P + 8)});
-        assertSnapshots(fn, 1, 20);
+        assertSnapshots(fn, 1, 20, true);
         assertCString(repeat('f', 1100), 1024, FakePernix.pointee(fn, 0, 1, 4));
 
         assertEachAllocationFailureReported(() -> jni.KX_PerformanceOutputAll("u", new PerformanceOutputInfo()));
@@ -139,7 +153,7 @@ public class PerfOutputTest extends BridgeTest {
     public void outputAllExCarriesOneSelectionPerControllerAndItsSession() throws Throwable {
         PerformanceOutputInfoEx info = new PerformanceOutputInfoEx();
         info.ctl = new byte[] {0, 1};
-        PerformanceAll[] s = snapshots(40);
+        PerformanceAll[] s = snapshots(40, false);
         info.preinfo0 = s[0];
         info.afterinfo0 = s[1];
         info.preinfo1 = s[2];
@@ -163,7 +177,7 @@ public class PerfOutputTest extends BridgeTest {
         assertArrayEquals(selection(60), r.slice(SEL, 5100));
         assertArrayEquals(selection(61), r.slice(SEL + 5100, 5100));
         assertArrayEquals(new int[] {3, 4, 5}, new int[] {r.i32(name + P), r.i32(name + P + 4), r.i32(name + P + 8)});
-        assertSnapshots(fn, 2, 40);
+        assertSnapshots(fn, 2, 40, false);
         assertCString("/var/perf/out.dat", 1024, FakePernix.pointee(fn, 0, 2, 4));
         info.preinfo0 = info.afterinfo0 = info.preinfo1 = info.afterinfo1 = null;
         assertEachAllocationFailureReported(() -> jni.KX_PerformanceOutputAllEx("u", null, info));
