@@ -1,6 +1,7 @@
 // Performance snapshots and their output: summaries, CSV extracts, graph
 // data and the management file of a collection.
 #include "perf/kinds.h"
+#include "session/records.h"
 
 using namespace kx;
 using namespace kx::perf;

@@ -15,7 +15,6 @@
 
 #include "core/native.h"
 #include "perf.h"
-#include "session/records.h"
 
 namespace kx::perf {
 

@@ -1,5 +1,6 @@
 // The statistical information block: cumulative counters per controller.
 #include "perf/records.h"
+#include "session/records.h"
 
 using namespace kx;
 

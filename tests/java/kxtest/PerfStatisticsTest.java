@@ -3,6 +3,7 @@ package kxtest;
 import static org.junit.Assert.assertArrayEquals;
 import static org.junit.Assert.assertEquals;
 import static org.junit.Assert.assertNull;
+import static org.junit.Assert.assertTrue;
 
 import orvane.str.diskarray.StatisticalCommand;
 import orvane.str.diskarray.StatisticalInformation;
@@ -39,6 +40,26 @@ public class PerfStatisticsTest extends BridgeTest {
         s.drive_err[1].limit.limit_ov_corerr = PerfTree.word(829388 + 37860 + 48, 11);
         s.unite_option = PerfTree.word(0, 11);
         PerfTree.assertPatterned(s, STATS, 11);
+    }
+
+    @Test
+    public void statisticsConvertBackIntoTheSameRecord() {
+        int[] status = {99, 99};
+        StatisticalInformation s = PerfTree.patterned(StatisticalInformation.class, 17);
+        assertArrayEquals(PerfTree.pattern(StatisticalInformation.class, STATS, 17, true), PerfProbe.readStatistics(s, status));
+        assertArrayEquals(new int[] {0, 0}, status);
+
+        // a table of too few rows stops the reader at its missing row
+        s.writeafter[1].stripe_job_rmw = new int[29][15];
+        s.writeafter[1].stripe_job_rmw[28][14] = 0x3C3C;
+        int rmw = 722044 + 14408 + 3608;
+        Rec r = Rec.wrap(PerfProbe.readStatistics(s, status));
+        assertTrue("a failure, the JVM's exception left pending", status[0] != 0 && status[1] == 1);
+        assertEquals(0x3C3C, r.i32(rmw + 4 * (29 * 15 - 1)));
+        assertTrue("nothing after it", r.zero(rmw + 4 * 29 * 15, STATS - rmw - 4 * 29 * 15));
+
+        PerfProbe.readStatistics(null, status);
+        assertEquals(-1, status[0]);
     }
 
     @Test
