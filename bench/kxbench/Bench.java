@@ -9,6 +9,7 @@ import java.util.IdentityHashMap;
 import java.util.List;
 import java.util.Locale;
 import java.util.Map;
+import kxtest.FakePernix;
 
 /**
  * Times the natives that build the largest Java trees against the test double
@@ -51,6 +52,9 @@ public final class Bench {
         cases.addAll(HostPortCases.all());
 
         // statistics and performance
+        cases.add(new PerfCases.Statistics());
+        cases.add(new PerfCases.Snapshots());
+        cases.add(new PerfCases.Graphs());
 
         // firmware, copy pairs and migration
         cases.add(new ReplicationCases.PairInformation());
@@ -66,21 +70,23 @@ public final class Bench {
             + " seam (zero fill, 32 guard bytes each side, bookkeeping under a lock), and the double copies"
             + " every record it is handed and then writes the scripted output; \"frame+fake\" is that share.");
         System.out.println();
-        System.out.printf(Locale.ROOT, "%-30s %8s %12s %19s %12s %12s %12s %8s%n", "native", "objects",
-            "median/call", "p10-p90", "frame+fake", "conversion", "floor", "ratio");
+        System.out.printf(Locale.ROOT, "%-30s %8s %12s %19s %12s %12s %12s %8s %10s %10s%n", "native", "objects",
+            "median/call", "p10-p90", "frame+fake", "conversion", "floor", "ratio", "records", "Java heap");
 
         for (Case c : cases) {
             Result r = measure(c);
-            System.out.printf(Locale.ROOT, "%-30s %8d %12s %19s %12s %12s %12s %7.0fx%n", c.name(), r.objects,
+            System.out.printf(Locale.ROOT, "%-30s %8d %12s %19s %12s %12s %12s %7.0fx %10s %10s%n", c.name(), r.objects,
                 ms(r.nativeNs), String.format(Locale.ROOT, "%.2f-%.2f ms", r.p10Ns / 1e6, r.p90Ns / 1e6),
                 ms(r.quietNs), ms(r.nativeNs - r.quietNs), ms(r.floorNs),
-                r.nativeNs / r.floorNs);
+                r.nativeNs / r.floorNs, mb(r.recordPeak), mb(r.javaBytes));
         }
         System.out.println();
         System.out.println("objects: Java objects in the returned tree (records and arrays), the same for the floor.");
         System.out.println("frame+fake: the same call answered 256 (records allocated, library called, nothing built).");
         System.out.println("p10-p90: spread of the timed native calls.");
         System.out.println("conversion: median/call minus frame+fake.  ratio: median/call over the floor.");
+        System.out.println("records: peak of the native's scratch records live at once during one call.");
+        System.out.println("Java heap: bytes the calling thread allocated during one call (the tree and any garbage).");
     }
 
     private static final class Result {
@@ -90,12 +96,17 @@ public final class Bench {
         double p90Ns;
         double quietNs;
         double floorNs;
+        long recordPeak;
+        long javaBytes;
     }
 
     private static Result measure(Case c) {
         Result r = new Result();
         c.script(false);
+        long allocated = allocatedBytes();
         Object got = c.callNative();
+        r.javaBytes = allocatedBytes() - allocated;
+        r.recordPeak = FakePernix.peakBytes();
         Object floor = c.buildFloor();
         String diff = difference(got, floor, c.name());
         if (diff != null) throw new AssertionError("the floor does not build the native's tree: " + diff);
@@ -139,6 +150,15 @@ public final class Bench {
         if ((o == null) != quiet) throw new AssertionError(c.name() + " returned " + o);
         sink = o;
         return t1 - t0;
+    }
+
+    private static long allocatedBytes() {
+        return ((com.sun.management.ThreadMXBean) java.lang.management.ManagementFactory.getThreadMXBean())
+            .getCurrentThreadAllocatedBytes();
+    }
+
+    private static String mb(long bytes) {
+        return String.format(Locale.ROOT, "%.2f MB", bytes / 1048576.0);
     }
 
     private static double median(long[] v) {
@@ -196,7 +216,7 @@ public final class Bench {
             }
             return null;
         }
-        if (cls == Integer.class) return a.equals(b) ? null : path + ": " + a + " against " + b;
+        if (cls == Integer.class || cls == Short.class) return a.equals(b) ? null : path + ": " + a + " against " + b;
         try {
             for (Field f : fields(cls)) {
                 String d = difference(f.get(a), f.get(b), path + "." + f.getName());

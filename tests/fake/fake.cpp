@@ -24,6 +24,8 @@ struct State {
   long allocations = 0;
   long fail_at = 0;  // 1-based index of the allocation that fails; 0: none
   std::map<const void*, size_t> live;
+  size_t live_bytes = 0;
+  size_t peak_bytes = 0;  // most bytes live at once since reset
   std::vector<std::string> faults;
   std::map<size_t, long> unwiped;  // released blocks that still held non-zero bytes, by size
 };
@@ -60,6 +62,12 @@ void record(Call& call, const void* p, size_t size) {
   call.args.push_back(std::move(a));
 }
 
+void record_pointee(Call& call, const void* p, size_t size) {
+  Call scratch{call.fn, {}};
+  record(scratch, p, size);
+  call.args.back().pointees.push_back(std::move(scratch.args.back()));
+}
+
 void record_int(Call& call, int32_t value) {
   Arg a;
   a.value = value;
@@ -70,6 +78,12 @@ void serve(const char* fn, size_t index, void* p, size_t size) {
   auto it = state().outputs.find({fn, index});
   if (it == state().outputs.end() || p == nullptr) return;
   std::memcpy(p, it->second.data(), std::min(size, it->second.size()));
+}
+
+void serve_at(const char* fn, size_t index, size_t offset, void* p, size_t size) {
+  auto it = state().outputs.find({fn, index});
+  if (it == state().outputs.end() || p == nullptr || it->second.size() <= offset) return;
+  std::memcpy(p, it->second.data() + offset, std::min(size, it->second.size() - offset));
 }
 
 int finish(const char* fn) {
@@ -95,6 +109,8 @@ extern "C" __attribute__((visibility("default"))) void* pernix_seam_alloc(size_t
   std::memset(raw + kGuard, 0, bytes);
   std::memset(raw + kGuard + bytes, kGuardByte, kGuard);
   s.live[raw + kGuard] = bytes;
+  s.live_bytes += bytes;
+  s.peak_bytes = std::max(s.peak_bytes, s.live_bytes);
   return raw + kGuard;
 }
 
@@ -126,6 +142,7 @@ extern "C" __attribute__((visibility("default"))) void pernix_seam_free(void* bl
       break;
     }
   }
+  s.live_bytes -= it->second;
   s.live.erase(it);
   std::free(raw);
 }
@@ -182,6 +199,8 @@ FAKE_JNI(void, reset)(JNIEnv*, jclass) {
   s.unwiped.clear();
   // Blocks still live belong to the test that leaked them; it has been told.
   s.live.clear();
+  s.live_bytes = 0;
+  s.peak_bytes = 0;
 }
 
 FAKE_JNI(void, willReturn)(JNIEnv* env, jclass, jstring fn, jint code) {
@@ -226,6 +245,22 @@ FAKE_JNI(jbyteArray, arg)(JNIEnv* env, jclass, jstring fn, jint call, jint arg) 
   return out;
 }
 
+FAKE_JNI(jbyteArray, pointee)(JNIEnv* env, jclass, jstring fn, jint call, jint arg, jint k) {
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  const fake::Arg* a = find_arg(env, fn, call, arg);
+  if (a == nullptr) return nullptr;
+  if (k < 0 || static_cast<size_t>(k) >= a->pointees.size()) {
+    env->ThrowNew(env->FindClass("java/lang/IllegalArgumentException"), "no such pointee");
+    return nullptr;
+  }
+  const fake::Arg& p = a->pointees[static_cast<size_t>(k)];
+  if (p.is_null) return nullptr;
+  jbyteArray out = env->NewByteArray(static_cast<jsize>(p.bytes.size()));
+  env->SetByteArrayRegion(out, 0, static_cast<jsize>(p.bytes.size()),
+                          reinterpret_cast<const jbyte*>(p.bytes.data()));
+  return out;
+}
+
 FAKE_JNI(jint, intArg)(JNIEnv* env, jclass, jstring fn, jint call, jint arg) {
   std::lock_guard<std::recursive_mutex> lock(state().mu);
   const fake::Arg* a = find_arg(env, fn, call, arg);
@@ -251,6 +286,11 @@ FAKE_JNI(jint, allocations)(JNIEnv*, jclass) {
 FAKE_JNI(jint, liveBlocks)(JNIEnv*, jclass) {
   std::lock_guard<std::recursive_mutex> lock(state().mu);
   return static_cast<jint>(state().live.size());
+}
+
+FAKE_JNI(jlong, peakBytes)(JNIEnv*, jclass) {
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  return static_cast<jlong>(state().peak_bytes);
 }
 
 FAKE_JNI(jstring, faults)(JNIEnv* env, jclass) {

@@ -34,6 +34,7 @@ struct Arg {
   bool is_null = false;
   int32_t value = 0;           // Int arguments
   std::vector<uint8_t> bytes;  // pointer arguments: the bytes as handed over
+  std::vector<Arg> pointees;   // records that pointers inside this one lead to
 };
 
 struct Call {
@@ -48,8 +49,12 @@ Call& begin(const char* fn);
 // Records a pointer argument of `size` bytes (null pointers are marked).
 void record(Call& call, const void* p, size_t size);
 void record_int(Call& call, int32_t value);
+// Records the buffer that a pointer inside the last recorded argument leads to.
+void record_pointee(Call& call, const void* p, size_t size);
 // Writes the bytes scripted for argument `index` of `fn` into p (at most size).
 void serve(const char* fn, size_t index, void* p, size_t size);
+// The same from byte `offset` of the scripted bytes on (nothing when they are shorter).
+void serve_at(const char* fn, size_t index, size_t offset, void* p, size_t size);
 int finish(const char* fn);
 
 template <size_t N>

@@ -36,6 +36,12 @@ public final class FakePernix {
     /** Bytes of pointer argument arg of the call'th call (0-based) of fn, as handed over; null for a null pointer. */
     public static native byte[] arg(String fn, int call, int arg);
 
+    /**
+     * Bytes of the k-th buffer (0-based, in the record's order) that pointers inside record argument arg lead
+     * to, as handed over; null for a null pointer.
+     */
+    public static native byte[] pointee(String fn, int call, int arg, int k);
+
     public static native int intArg(String fn, int call, int arg);
 
     public static native boolean isNull(String fn, int call, int arg);
@@ -65,6 +71,8 @@ public final class FakePernix {
 
     /** Blocks of size bytes released since reset that still held a non-zero byte (not cleared first). */
     public static native int unwipedReleases(int size);
+    /** Most bytes of the bridge's blocks live at once since reset. */
+    public static native long peakBytes();
 
     /** Release faults seen: double or foreign releases, size mismatches, overwritten guards. */
     public static native String faults();

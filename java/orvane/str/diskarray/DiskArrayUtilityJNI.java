@@ -265,7 +265,27 @@ public class DiskArrayUtilityJNI {
 
 
     // ---- statistics and performance output ----
-
+    public native StatisticalInformation KX_GetStatisticalInformation(String unitName, KXSessionInfo session, int selector);
+    public native StatisticalCommand[] KX_GetPerformance(String unitName, KXSessionInfo session);
+    public native PerformanceAll[] KX_GetPerformanceAll(String unitName, KXSessionInfo session, int a);
+    public native int KX_GetPfmStatisCfg(String unitName, KXSessionInfo session);
+    public native void KX_SetPfmStatisCfg(String unitName, KXSessionInfo session, int cfg);
+    public native void KX_PerformanceOutput(String unitName, KXSessionInfo session, String path,
+            StatisticalCommand cmd1, StatisticalCommand cmd2, StatisticalCommand cmd3, StatisticalCommand cmd4);
+    public native void KX_PerformanceOutputLU(String unitName, KXSessionInfo session, String path,
+            StatisticalCommand cmd1, StatisticalCommand cmd2, StatisticalCommand cmd3, StatisticalCommand cmd4,
+            int a, byte[] lu, int b);
+    public native void KX_PerformanceOutputAll(String unitName, PerformanceOutputInfo info);
+    public native void KX_PerformanceOutputAllEx(String unitName, KXSessionInfo session, PerformanceOutputInfoEx info);
+    public native void KX_PerformanceOutputSkip(String path, int a, int b, KXTime time);
+    public native void KX_PerformanceOutputCSV(String path, PerformanceCSVInfo info);
+    public native int KX_GetPerformanceCSVNum(String path, PerformanceCSVInfo info);
+    public native PerformanceCollectGraphInfo KX_PerformanceOutputGraphInfo(String unitName, KXSessionInfo session,
+            PerformanceOutputGraphInfo info);
+    public native void KX_PerformanceDataOutput(String path, PerformanceCollectGraphInfo graphs);
+    public native void KX_PerformanceDataInitialize(KXSessionInfo session, String path, PerformanceMngInfo info);
+    public native PerformanceMngInfo KX_PerformanceInputMngFile(String path);
+    public native int KX_GetPfmFileMaxCount();
     // ---- end of statistics and performance output ----
 
 

@@ -1,0 +1,5 @@
+package orvane.str.diskarray;
+
+public class PerformanceCollectGraphInfo {
+    public PerformanceCollectGraph[] graphinfo;
+}

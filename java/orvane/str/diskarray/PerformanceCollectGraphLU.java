@@ -1,0 +1,5 @@
+package orvane.str.diskarray;
+
+public class PerformanceCollectGraphLU {
+    public PerformanceCollectGraphBase base;
+}

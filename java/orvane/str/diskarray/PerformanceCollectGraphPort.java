@@ -1,0 +1,5 @@
+package orvane.str.diskarray;
+
+public class PerformanceCollectGraphPort {
+    public PerformanceCollectGraphBase base;
+}

@@ -1,0 +1,5 @@
+package orvane.str.diskarray;
+
+public class PerformanceCollectGraphVULU {
+    public PerformanceCollectGraphVUBase data_transfer;
+}

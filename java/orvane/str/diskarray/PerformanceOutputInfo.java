@@ -1,0 +1,21 @@
+package orvane.str.diskarray;
+
+public class PerformanceOutputInfo {
+    public byte[] ctl = new byte[2];
+    public PerformanceAll preinfo0;
+    public PerformanceAll afterinfo0;
+    public PerformanceAll preinfo1;
+    public PerformanceAll afterinfo1;
+    public byte[] port = new byte[4];
+    public byte[] rg = new byte[90];
+    public byte[] lu = new byte[4096];
+    public int cache;
+    public byte[] backend = new byte[8];
+    public byte[][] drive = new byte[30][15];
+    public int processor;
+    public byte[][] drive_opr_rate = new byte[30][15];
+    public String filename;
+    public int count;
+    public int mode;
+    public int file_fmt_mode;
+}

@@ -1,0 +1,5 @@
+package orvane.str.diskarray;
+
+public class StatisticalCommandStatus {
+    public StatisticalCommandStatus_Info[] lu;
+}

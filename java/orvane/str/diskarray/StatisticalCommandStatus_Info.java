@@ -1,0 +1,13 @@
+package orvane.str.diskarray;
+
+public class StatisticalCommandStatus_Info {
+    public int r_cache;
+    public int w_cache;
+    public int seq_r;
+    public int seq_w;
+    public int pre_exec;
+    public int w_through;
+    public int re_asign;
+    public int rd_miss;
+    public int wr_spl;
+}

@@ -1,0 +1,5 @@
+package orvane.str.diskarray;
+
+public class StatisticalDriveFpc {
+    public StatisticalDriveFpc_Info[] fpc;
+}

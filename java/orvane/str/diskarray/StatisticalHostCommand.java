@@ -1,0 +1,5 @@
+package orvane.str.diskarray;
+
+public class StatisticalHostCommand {
+    public StatisticalHostCommand_Info[] lu;
+}

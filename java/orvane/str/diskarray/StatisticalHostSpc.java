@@ -1,0 +1,5 @@
+package orvane.str.diskarray;
+
+public class StatisticalHostSpc {
+    public StatisticalHostSpc_Info[] port;
+}

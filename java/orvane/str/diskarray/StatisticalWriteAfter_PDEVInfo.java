@@ -1,0 +1,8 @@
+package orvane.str.diskarray;
+
+public class StatisticalWriteAfter_PDEVInfo {
+    public int gather_prc_cnt;
+    public int gather_max;
+    public int gather_min;
+    public int gather_cnt;
+}

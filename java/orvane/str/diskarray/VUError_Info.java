@@ -1,0 +1,7 @@
+package orvane.str.diskarray;
+
+public class VUError_Info {
+    public int valid;
+    public int support;
+    public int timeout_error_count;
+}
