@@ -72,9 +72,10 @@ public class ReplicationTest extends BridgeTest {
             String fn = (String) r[0];
             UnitCall call = (UnitCall) r[1];
             FakePernix.reset();
-            call.run("unit-" + fn);
+            String unit = fn + "-" + repeat('u', 80);  // cut to 64 bytes in its 65-byte buffer
+            call.run(unit);
             assertEquals(fn, 1, FakePernix.calls(fn));
-            assertCString("unit-" + fn, 65, FakePernix.arg(fn, 0, 0));
+            assertCString(unit, 65, FakePernix.arg(fn, 0, 0));
             for (int i = 2; i < r.length; i++) {
                 if (r[i] == S) assertArrayEquals(fn, S.session_id, FakePernix.arg(fn, 0, i - 1));
                 else assertEquals(fn, r[i], FakePernix.intArg(fn, 0, i - 1));
