@@ -157,6 +157,7 @@ public class FirmwareTest extends BridgeTest {
             FakePernix.reset();
             assertEquals(258, code(() -> c.run("u")));
             assertEquals(1, FakePernix.allocations());
+            assertEquals(0, FakePernix.liveBlocks());
             assertEquals(0, FakePernix.log().length);
             FakePernix.reset();
             FakePernix.failAllocation(1);
