@@ -15,7 +15,8 @@
 // conversion failure is not reported: the library gets what could be read);
 // the library is called exactly once; a non-zero result is thrown (256
 // silently); the output is converted into its Java result (2817 when that
-// fails); fflush(stdout) and return.  Every record is released exactly once
+// fails); fflush(stdout) and return.  Classes and field IDs the conversions
+// look up are remembered until the call returns, never longer.  Every record is released exactly once
 // on every path, records that held secrets cleared first.
 #pragma once
 
@@ -30,6 +31,7 @@
 #include "core/accessors.h"
 #include "core/errors.h"
 #include "core/jni_refs.h"
+#include "core/lookups.h"
 #include "core/memory.h"
 #include "core/record.h"
 #include "pernix_common.h"
@@ -265,6 +267,9 @@ auto call(JNIEnv* env, const Options& opt, Fn&& fn, S&&... args) -> detail::resu
   static_assert(((detail::Result<std::remove_cvref_t<S>> ? 1 : 0) + ... + 0) <= 1,
                 "a native has at most one result");
   if (opt.flush) std::fflush(stdout);
+  // Classes and IDs the conversions look up, remembered until this call
+  // returns (core/lookups.h).
+  Lookups lookups(env);
 
   auto fail = [&](int code) -> T {
     errorThrow(env, code);
