@@ -64,10 +64,9 @@ struct Target {
   Lookups::Entry* entry;
 };
 
-// The ID of field `i` (f) of the target with signature `sig`; null when an
-// exception is pending or the class has no such field (NoSuchFieldError then
-// pending).
-jfieldID field_id(Walk& w, const Target& t, const Field& f, uint32_t i, const char* sig) {
+// field_id's way when the ID is not at hand yet.
+[[gnu::noinline]] jfieldID resolve_id(Walk& w, const Target& t, const Field& f, uint32_t i,
+                                      const char* sig) {
   if (!w.ok()) return nullptr;
   jfieldID id;
   if (t.entry != nullptr) {
@@ -80,6 +79,18 @@ jfieldID field_id(Walk& w, const Target& t, const Field& f, uint32_t i, const ch
   }
   if (id == nullptr) w.clean = false;
   return id;
+}
+
+// The ID of field `i` (f) of the target with signature `sig`; null when an
+// exception is pending or the class has no such field (NoSuchFieldError then
+// pending).  Once per field and call the ID is looked up; every other use
+// takes it from the entry.
+[[gnu::always_inline]] inline jfieldID field_id(Walk& w, const Target& t, const Field& f, uint32_t i,
+                                                const char* sig) {
+  if (w.clean && t.entry != nullptr) {
+    if (jfieldID id = t.entry->ids[i]) return id;
+  }
+  return resolve_id(w, t, f, i, sig);
 }
 
 // The object a field holds (a new local reference), or null when the field is
@@ -410,13 +421,8 @@ jobject new_object(Walk& w, const RecordDesc& desc, Lookups::Entry*& entry) {
     entry->ctor = w.env->GetMethodID(entry->cls, "<init>", "()V");
     if (entry->ctor == nullptr) return nullptr;
   }
-  jobject obj = w.env->NewObject(entry->cls, entry->ctor);
-  if (pending(w.env)) {
-    if (obj != nullptr) w.env->DeleteLocalRef(obj);
-    w.clean = false;
-    return nullptr;
-  }
-  return obj;
+  // Null exactly when the object could not be made or its constructor threw.
+  return w.env->NewObject(entry->cls, entry->ctor);
 }
 
 jobject write_object(Walk& w, const RecordDesc& desc, const void* rec) {
@@ -450,9 +456,16 @@ int read_record(JNIEnv* env, jobject obj, const RecordDesc& desc, void* rec) {
 }
 
 jobject write_record(JNIEnv* env, const RecordDesc& desc, const void* rec) {
+  bool clean = false;
+  return write_record(env, desc, rec, clean);
+}
+
+jobject write_record(JNIEnv* env, const RecordDesc& desc, const void* rec, bool& clean) {
   return with_lookups(env, [&](Lookups& lookups) {
-    Walk w{env, lookups};
-    return write_object(w, desc, rec);
+    Walk w{env, lookups, clean};
+    jobject obj = write_object(w, desc, rec);
+    clean = w.clean;
+    return obj;
   });
 }
 
