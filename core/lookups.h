@@ -92,7 +92,8 @@ class Lookups {
 // write_record for callers that keep track of pending exceptions: `clean`
 // says on entry whether the caller knows that none is pending, and on return
 // whether the walker knows that none is (when false, ask the JVM).
-jobject write_record(JNIEnv* env, const RecordDesc& desc, const void* rec, bool& clean);
+// `lookups` is the call's (Lookups::active() or one of the caller's own).
+jobject write_record(Lookups& lookups, JNIEnv* env, const RecordDesc& desc, const void* rec, bool& clean);
 
 // Runs fn(Lookups&) with the call's Lookups, or with one of its own while no
 // call has one.

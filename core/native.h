@@ -162,20 +162,22 @@ struct OutList {
   jobjectArray convert(JNIEnv* env, int&) {
     LocalRef<jobjectArray> arr(env, new_object_array(env, desc.cls, count));
     if (!arr) return nullptr;
-    bool clean = false;  // no exception known to be pending
-    for (jsize i = 0; i < count; ++i) {
-      LocalRef<jobject> item(env, write_record(env, desc, &rec[static_cast<size_t>(i)], clean));
-      // With an exception pending the element cannot be stored: it counts as
-      // not built.
-      if (!item || (!clean && pending(env))) {
-        if (end == ListEnd::Stop) break;
-        clean = false;
-        continue;
+    with_lookups(env, [&](Lookups& lookups) {
+      bool clean = false;  // no exception known to be pending
+      for (jsize i = 0; i < count; ++i) {
+        LocalRef<jobject> item(env, write_record(lookups, env, desc, &rec[static_cast<size_t>(i)], clean));
+        // With an exception pending the element cannot be stored: it counts
+        // as not built.
+        if (!item || (!clean && pending(env))) {
+          if (end == ListEnd::Stop) break;
+          clean = false;
+          continue;
+        }
+        clean = true;
+        // An element of the array's own class, inside its bounds: cannot raise.
+        env->SetObjectArrayElement(arr.get(), i, item.get());
       }
-      clean = true;
-      // An element of the array's own class, inside its bounds: cannot raise.
-      env->SetObjectArrayElement(arr.get(), i, item.get());
-    }
+    });
     return arr.release();
   }
 };

@@ -134,7 +134,8 @@ int read_elements(Walk& w, jobjectArray arr, const RecordDesc& elem, uint8_t* ds
   return kOk;
 }
 
-int read_field(Walk& w, const Target& t, const Field& f, uint32_t index, void* rec) {
+[[gnu::always_inline]] inline int read_field(Walk& w, const Target& t, const Field& f, uint32_t index,
+                                             void* rec) {
   JNIEnv* env = w.env;
   jobject obj = t.obj;
   uint8_t* dst = at(rec, f.offset);
@@ -305,7 +306,9 @@ jobjectArray write_elements(Walk& w, const RecordDesc& elem, const uint8_t* src,
   return arr.release();
 }
 
-int write_field(Walk& w, const Target& t, const Field& f, uint32_t index, const void* rec) {
+// Inlined into the record loop: the call would cost more than most fields.
+[[gnu::always_inline]] inline int write_field(Walk& w, const Target& t, const Field& f, uint32_t index,
+                                              const void* rec) {
   JNIEnv* env = w.env;
   jobject obj = t.obj;
   const uint8_t* src = at(rec, f.offset);
@@ -456,17 +459,17 @@ int read_record(JNIEnv* env, jobject obj, const RecordDesc& desc, void* rec) {
 }
 
 jobject write_record(JNIEnv* env, const RecordDesc& desc, const void* rec) {
-  bool clean = false;
-  return write_record(env, desc, rec, clean);
+  return with_lookups(env, [&](Lookups& lookups) {
+    bool clean = false;
+    return write_record(lookups, env, desc, rec, clean);
+  });
 }
 
-jobject write_record(JNIEnv* env, const RecordDesc& desc, const void* rec, bool& clean) {
-  return with_lookups(env, [&](Lookups& lookups) {
-    Walk w{env, lookups, clean};
-    jobject obj = write_object(w, desc, rec);
-    clean = w.clean;
-    return obj;
-  });
+jobject write_record(Lookups& lookups, JNIEnv* env, const RecordDesc& desc, const void* rec, bool& clean) {
+  Walk w{env, lookups, clean};
+  jobject obj = write_object(w, desc, rec);
+  clean = w.clean;
+  return obj;
 }
 
 }  // namespace kx
