@@ -125,22 +125,4 @@ public class CallLookupsTest extends BridgeTest {
             assertNotSame(a.rgdrv[29][14], b.rgdrv[29][14]);
         }
     }
-
-    @Test
-    public void listsOfThousandsGoThroughTheFrameTwiceInARowUnchanged() {
-        // Two calls: nothing of the first (classes, IDs, references) may reach the second.
-        Rec rec = Rec.of(4096 * 88);
-        for (int i = 0; i < 4096; i++) rec.i32(88 * i, i).i32(88 * i + 84, -i);
-        for (int call = 0; call < 2; call++) {
-            FakePernix.reset();
-            FakePernix.willWrite("KX_GetLogicalUnit", 2, rec.bytes());
-            LogicalUnit[] list = jni.KX_GetLogicalUnit("u", RaidGroupTest.S);
-            assertEquals(4096, list.length);
-            for (int i = 0; i < 4096; i += 97) {
-                assertEquals(i, list[i].luNumber);
-                assertEquals(-i, list[i].unit_type_sub_code);
-            }
-            assertEquals(-4095, list[4095].unit_type_sub_code);
-        }
-    }
 }
