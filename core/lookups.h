@@ -6,7 +6,7 @@
 // call and reuses them for every object of the tree.
 //
 // Nothing outlives the call.  A Lookups object lives on the stack of the
-// native (kx::call makes one first thing; the walker's entry points make their
+// native (kx::call makes one as it starts; the walker's entry points make their
 // own when called outside any).  While it exists, a thread-local pointer names
 // it so the walker finds it without an extra parameter; the destructor puts
 // the previous pointer back, so between calls the pointer is null and no class,
@@ -16,6 +16,12 @@
 //
 // Code that runs the walker inside its own PushLocalFrame must open a Lookups
 // inside that frame too: references made there die with the frame.
+//
+// Room is fixed: 48 classes, 48 record entries, 1024 field IDs, all in the
+// object itself (no allocation).  Past that, the walker looks the rest up by
+// name at every use, as the accessors do, so the references held stay
+// bounded however many classes a tree holds; EnsureLocalCapacity is asked for
+// each reference kept, with room to spare for the walker's own.
 //
 // Only successes are remembered.  A class, constructor or field that cannot be
 // found is looked up again at its next use, which fails the same way (the JVM's
