@@ -55,11 +55,7 @@ jobject jni_get_object(JNIEnv* env, jobject obj, const char* name, const char* s
 
 int jni_get_string(JNIEnv* env, jobject obj, const char* name, char* dst, size_t n) {
   auto str = array_field<jstring>(env, obj, name, kStringSig);
-  if (!str) return kx::kMarshal;
-  UtfChars chars(env, str.get());
-  if (!chars) return kx::kMarshal;
-  copy_cut(dst, chars.get(), n);
-  return kx::kOk;
+  return kx::string_into(env, str.get(), dst, n);
 }
 
 int jni_get_str_array(JNIEnv* env, jobject obj, const char* name, char* dst, size_t n,
@@ -79,9 +75,7 @@ int jni_get_str_array(JNIEnv* env, jobject obj, const char* name, char* dst, siz
 
 int jni_get_int_array(JNIEnv* env, jobject obj, const char* name, int32_t* dst, jsize n) {
   auto arr = array_field<jintArray>(env, obj, name, "[I");
-  if (!arr) return kx::kMarshal;
-  env->GetIntArrayRegion(arr.get(), 0, n, reinterpret_cast<jint*>(dst));
-  return pending(env) ? kx::kMarshal : kx::kOk;
+  return kx::int_array_into(env, arr.get(), dst, n);
 }
 
 namespace {
@@ -101,12 +95,7 @@ int each_row(JNIEnv* env, jobjectArray outer, jsize count, Copy copy) {
 int jni_get_int_2array(JNIEnv* env, jobject obj, const char* name, int32_t* dst, jsize rows,
                        jsize cols) {
   auto arr = array_field<jobjectArray>(env, obj, name, "[[I");
-  if (!arr) return kx::kMarshal;
-  return each_row(env, arr.get(), rows, [&](jsize r, jarray row) {
-    env->GetIntArrayRegion(static_cast<jintArray>(row), 0, cols,
-                           reinterpret_cast<jint*>(dst) + static_cast<size_t>(r) * cols);
-    return kx::kOk;
-  });
+  return kx::int_rows_into(env, arr.get(), dst, rows, cols);
 }
 
 int jni_get_int_3array(JNIEnv* env, jobject obj, const char* name, int32_t* dst, jsize d1,
@@ -124,9 +113,7 @@ int jni_get_int_3array(JNIEnv* env, jobject obj, const char* name, int32_t* dst,
 
 int jni_get_byte_array(JNIEnv* env, jobject obj, const char* name, void* dst, jsize n) {
   auto arr = array_field<jbyteArray>(env, obj, name, "[B");
-  if (!arr) return kx::kMarshal;
-  env->GetByteArrayRegion(arr.get(), 0, n, static_cast<jbyte*>(dst));
-  return pending(env) ? kx::kMarshal : kx::kOk;
+  return kx::byte_array_into(env, arr.get(), dst, n);
 }
 
 int jni_get_byte_2array(JNIEnv* env, jobject obj, const char* name, void* dst, jsize rows,
@@ -143,18 +130,7 @@ int jni_get_byte_2array(JNIEnv* env, jobject obj, const char* name, void* dst, j
 int jni_char_array_from_int_array(JNIEnv* env, jobject obj, const char* name, void* dst,
                                   size_t capacity) {
   auto arr = array_field<jintArray>(env, obj, name, "[I");
-  if (!arr) return kx::kMarshal;
-  auto* out = static_cast<uint8_t*>(dst);
-  size_t length = static_cast<size_t>(env->GetArrayLength(arr.get()));
-  if (length == 0) {
-    if (capacity > 0) out[0] = 0;
-    return kx::kOk;
-  }
-  jint* elems = env->GetIntArrayElements(arr.get(), nullptr);
-  if (elems == nullptr) return kx::kMarshal;
-  for (size_t i = 0; i < std::min(length, capacity); ++i) out[i] = static_cast<uint8_t>(elems[i]);
-  env->ReleaseIntArrayElements(arr.get(), elems, JNI_ABORT);
-  return kx::kOk;
+  return kx::low_bytes_into(env, arr.get(), dst, capacity);
 }
 
 double jni_get_double(JNIEnv* env, jobject obj, const char* name) {
@@ -357,4 +333,50 @@ int print_jobject(JNIEnv* env, jobject obj) {
   if (println == nullptr) return -1;
   env->CallVoidMethod(out.get(), println, obj);
   return 0;
+}
+
+// ------------------------------------------------ copies from a fetched value
+
+int kx::string_into(JNIEnv* env, jstring str, char* dst, size_t n) {
+  if (str == nullptr) return kx::kMarshal;
+  UtfChars chars(env, str);
+  if (!chars) return kx::kMarshal;
+  copy_cut(dst, chars.get(), n);
+  return kx::kOk;
+}
+
+int kx::int_array_into(JNIEnv* env, jintArray arr, int32_t* dst, jsize n) {
+  if (arr == nullptr) return kx::kMarshal;
+  env->GetIntArrayRegion(arr, 0, n, reinterpret_cast<jint*>(dst));
+  return pending(env) ? kx::kMarshal : kx::kOk;
+}
+
+int kx::int_rows_into(JNIEnv* env, jobjectArray arr, int32_t* dst, jsize rows, jsize cols) {
+  if (arr == nullptr) return kx::kMarshal;
+  return each_row(env, arr, rows, [&](jsize r, jarray row) {
+    env->GetIntArrayRegion(static_cast<jintArray>(row), 0, cols,
+                           reinterpret_cast<jint*>(dst) + static_cast<size_t>(r) * cols);
+    return kx::kOk;
+  });
+}
+
+int kx::byte_array_into(JNIEnv* env, jbyteArray arr, void* dst, jsize n) {
+  if (arr == nullptr) return kx::kMarshal;
+  env->GetByteArrayRegion(arr, 0, n, static_cast<jbyte*>(dst));
+  return pending(env) ? kx::kMarshal : kx::kOk;
+}
+
+int kx::low_bytes_into(JNIEnv* env, jintArray arr, void* dst, size_t capacity) {
+  if (arr == nullptr) return kx::kMarshal;
+  auto* out = static_cast<uint8_t*>(dst);
+  size_t length = static_cast<size_t>(env->GetArrayLength(arr));
+  if (length == 0) {
+    if (capacity > 0) out[0] = 0;
+    return kx::kOk;
+  }
+  jint* elems = env->GetIntArrayElements(arr, nullptr);
+  if (elems == nullptr) return kx::kMarshal;
+  for (size_t i = 0; i < std::min(length, capacity); ++i) out[i] = static_cast<uint8_t>(elems[i]);
+  env->ReleaseIntArrayElements(arr, elems, JNI_ABORT);
+  return kx::kOk;
 }

@@ -1,7 +1,9 @@
 // Field and array accessors: one field of a Java object into C and back.
 //
-// Every field is looked up by name with a fixed signature on every call; no
-// class, field or method ID is cached.  Status results are 0 or kx::kMarshal;
+// Every field is looked up by name with a fixed signature on every call; these
+// helpers remember nothing.  (The record walker, core/record.cpp, remembers
+// lookups within one native call and uses the copy steps at the end of this
+// header on the values it fetched itself.)  Status results are 0 or kx::kMarshal;
 // the value readers report failure through their value (-1, -1.0, null) and
 // leave the JVM's exception pending for the caller to test.
 //
@@ -63,6 +65,16 @@ jobjectArray new_object_array(JNIEnv* env, const char* cls, jsize length);
 int print_jobject(JNIEnv* env, jobject obj);
 
 namespace kx {
+
+// The copy steps of the readers above, on a value already fetched from its
+// field: kMarshal for a null value or a failed copy.  Called with no
+// exception pending.
+int string_into(JNIEnv* env, jstring str, char* dst, size_t n);
+int int_array_into(JNIEnv* env, jintArray arr, int32_t* dst, jsize n);
+int int_rows_into(JNIEnv* env, jobjectArray arr, int32_t* dst, jsize rows, jsize cols);
+int byte_array_into(JNIEnv* env, jbyteArray arr, void* dst, jsize n);
+int low_bytes_into(JNIEnv* env, jintArray arr, void* dst, size_t capacity);
+
 // The short stored for a fixed-point value with two decimals: value * 100,
 // truncated toward zero to 32 bits, low 16 bits kept.
 int16_t fixed_point_short(double value);

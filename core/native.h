@@ -15,7 +15,8 @@
 // conversion failure is not reported: the library gets what could be read);
 // the library is called exactly once; a non-zero result is thrown (256
 // silently); the output is converted into its Java result (2817 when that
-// fails); fflush(stdout) and return.  Every record is released exactly once
+// fails); fflush(stdout) and return.  Classes and field IDs the conversions
+// look up are remembered until the call returns, never longer.  Every record is released exactly once
 // on every path, records that held secrets cleared first.
 #pragma once
 
@@ -30,6 +31,7 @@
 #include "core/accessors.h"
 #include "core/errors.h"
 #include "core/jni_refs.h"
+#include "core/lookups.h"
 #include "core/memory.h"
 #include "core/record.h"
 #include "pernix_common.h"
@@ -176,16 +178,22 @@ struct OutList {
   jobjectArray convert(JNIEnv* env, int&) {
     LocalRef<jobjectArray> arr(env, new_object_array(env, desc.cls, count));
     if (!arr) return nullptr;
-    for (jsize i = 0; i < count; ++i) {
-      LocalRef<jobject> item(env, write_record(env, desc, &rec[static_cast<size_t>(i)]));
-      // With an exception pending the element cannot be stored: it counts as
-      // not built.
-      if (!item || pending(env)) {
-        if (end == ListEnd::Stop) break;
-        continue;
+    with_lookups(env, [&](Lookups& lookups) {
+      bool clean = false;  // no exception known to be pending
+      for (jsize i = 0; i < count; ++i) {
+        LocalRef<jobject> item(env, write_record(lookups, env, desc, &rec[static_cast<size_t>(i)], clean));
+        // With an exception pending the element cannot be stored: it counts
+        // as not built.
+        if (!item || (!clean && pending(env))) {
+          if (end == ListEnd::Stop) break;
+          clean = false;
+          continue;
+        }
+        clean = true;
+        // An element of the array's own class, inside its bounds: cannot raise.
+        env->SetObjectArrayElement(arr.get(), i, item.get());
       }
-      env->SetObjectArrayElement(arr.get(), i, item.get());
-    }
+    });
     return arr.release();
   }
 };
@@ -296,6 +304,9 @@ auto call(JNIEnv* env, const Options& opt, Fn&& fn, S&&... args) -> detail::resu
   static_assert(((detail::Result<std::remove_cvref_t<S>> ? 1 : 0) + ... + 0) <= 1,
                 "a native has at most one result");
   if (opt.flush) std::fflush(stdout);
+  // Classes and IDs the conversions look up, remembered until this call
+  // returns (core/lookups.h).
+  Lookups lookups(env);
 
   auto fail = [&](int code) -> T {
     errorThrow(env, code);

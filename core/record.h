@@ -39,6 +39,8 @@ enum class Kind : uint8_t {
   Records,        // record[N]    <-> "[L<class>;"
   Records2,       // record[R][C] <-> "[[L<class>;"
   Custom,         // a one-off layout, read and written by the field's own functions
+  // Kinds added here convert through helpers that test for exceptions
+  // themselves; the walker asks the JVM again after each such field.
 };
 
 struct RecordDesc;

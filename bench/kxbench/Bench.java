@@ -1,5 +1,7 @@
 package kxbench;
 
+import java.lang.management.ManagementFactory;
+import java.lang.management.ThreadMXBean;
 import java.lang.reflect.Array;
 import java.lang.reflect.Field;
 import java.lang.reflect.Modifier;
@@ -9,28 +11,35 @@ import java.util.IdentityHashMap;
 import java.util.List;
 import java.util.Locale;
 import java.util.Map;
-import kxtest.FakePernix;
 
 /**
- * Times the natives that build the largest Java trees against the test double
- * of libpernix.so, in one warm JVM, next to the floor: the same tree built
- * from the same record bytes by plain Java code.
+ * Times the natives that build the largest Java trees (and one that reads the
+ * largest input record) against the test double of libpernix.so, in one warm
+ * JVM, next to two floors: the same tree built from the same record bytes by
+ * plain Java code, and by hand-written JNI code that looks every class, field
+ * and constructor up once per call (HandJni).
  *
  * Per native: warm-up calls first, then several rounds that interleave timed
  * native calls, timed calls that the library answers with 256 (the frame and
- * the test double without any conversion) and timed floor builds; each call is
- * timed on its own and the median over all rounds is reported.  The test
- * double is reset and re-scripted before every call, outside the timing.
+ * the test double without any conversion), timed plain-Java builds and timed
+ * hand-written JNI builds; each call is timed on its own and the median over
+ * all rounds is reported.  The test double is reset and re-scripted before
+ * every call, outside the timing.
  *
  * Properties: bench.warmup (native calls before measuring, default 100),
  * bench.rounds (default 5), bench.calls (timed native calls per round, default 40),
- * bench.floor (floor builds per round, default 400).
+ * bench.floor (floor builds per round, default 400), bench.clock ("cpu", the default: the
+ * calling thread's CPU time, which a busy machine disturbs far less than elapsed
+ * time; "wall": elapsed time).
  */
 public final class Bench {
     private static final int WARMUP = Integer.getInteger("bench.warmup", 100);
     private static final int ROUNDS = Integer.getInteger("bench.rounds", 5);
     private static final int CALLS = Integer.getInteger("bench.calls", 40);
     private static final int FLOOR = Integer.getInteger("bench.floor", 400);
+    /** "cpu" (default): the calling thread's CPU time; "wall": elapsed time. */
+    private static final boolean CPU = !"wall".equals(System.getProperty("bench.clock", "cpu"));
+    private static final ThreadMXBean THREADS = ManagementFactory.getThreadMXBean();
 
     /** Keeps results reachable so that no build is optimised away. */
     static volatile Object sink;
@@ -43,6 +52,7 @@ public final class Bench {
         cases.add(new Cases.AreaInformation());
         cases.add(new Cases.GroupInformation());
         cases.add(new SpinDownUpCase());
+        cases.add(new CreateRaidGroupCase());
         // pools, wizard and LU cache
         cases.add(new PoolCases.UnifiedLus());
         cases.add(new PoolCases.ConfigurationImport());
@@ -64,29 +74,39 @@ public final class Bench {
 
         System.out.printf("Bridge natives against the test double of libpernix.so, one warm JVM (%s %s)%n",
             System.getProperty("java.vm.name"), System.getProperty("java.version"));
-        System.out.printf("%d warm-up calls, then %d rounds of %d timed calls, %d calls answered 256"
-            + " and %d floor builds; medians per call.%n", WARMUP, ROUNDS, CALLS, CALLS, FLOOR);
+        if (CPU && !THREADS.isCurrentThreadCpuTimeSupported()) throw new AssertionError("no thread CPU time here");
+        System.out.printf("Clock: %s.%n", CPU ? "CPU time of the calling thread (-Dbench.clock=wall for elapsed time)"
+            : "elapsed time");
+        System.out.printf("%d warm-up calls, then %d rounds of %d timed calls, %d calls answered 256,"
+            + " %d plain-Java builds and %d hand-written JNI builds of each kind; medians per call.%n",
+            WARMUP, ROUNDS, CALLS, CALLS, FLOOR, CALLS);
         System.out.println("Note: this is the test build. Every record goes through the test double's allocation"
             + " seam (zero fill, 32 guard bytes each side, bookkeeping under a lock), and the double copies"
             + " every record it is handed and then writes the scripted output; \"frame+fake\" is that share.");
         System.out.println();
-        System.out.printf(Locale.ROOT, "%-30s %8s %12s %19s %12s %12s %12s %8s %10s %10s%n", "native", "objects",
-            "median/call", "p10-p90", "frame+fake", "conversion", "floor", "ratio", "records", "Java heap");
+        System.out.printf(Locale.ROOT, "%-28s %7s %11s %17s %10s %10s %10s %10s %7s %6s %7s%n", "native", "objects",
+            "median/call", "p10-p90", "frame+fake", "Java floor", "JNI floor", "JNI lax", "/Java", "/JNI", "paired");
 
         for (Case c : cases) {
             Result r = measure(c);
-            System.out.printf(Locale.ROOT, "%-30s %8d %12s %19s %12s %12s %12s %7.0fx %10s %10s%n", c.name(), r.objects,
-                ms(r.nativeNs), String.format(Locale.ROOT, "%.2f-%.2f ms", r.p10Ns / 1e6, r.p90Ns / 1e6),
-                ms(r.quietNs), ms(r.nativeNs - r.quietNs), ms(r.floorNs),
-                r.nativeNs / r.floorNs, mb(r.recordPeak), mb(r.javaBytes));
+            System.out.printf(Locale.ROOT, "%-28s %7d %11s %17s %10s %10s %10s %10s %6.0fx %5.2fx %6.2fx%n", c.name(),
+                r.objects, ms(r.nativeNs), String.format(Locale.ROOT, "%.3f-%.3f", r.p10Ns / 1e6, r.p90Ns / 1e6),
+                c.builds() ? ms(r.quietNs) : "-", ms(r.floorNs), ms(r.jniNs), ms(r.laxNs),
+                r.nativeNs / r.floorNs, r.nativeNs / r.jniNs, r.pairedRatio);
         }
         System.out.println();
-        System.out.println("objects: Java objects in the returned tree (records and arrays), the same for the floor.");
-        System.out.println("frame+fake: the same call answered 256 (records allocated, library called, nothing built).");
+        System.out.println("Times in ms.  objects: Java objects in the tree (records and arrays), the same for the floors.");
+        System.out.println("frame+fake: the same call answered 256 (records allocated, library called, nothing built);"
+            + " not for a reader, which converts before the call.");
         System.out.println("p10-p90: spread of the timed native calls.");
-        System.out.println("conversion: median/call minus frame+fake.  ratio: median/call over the floor.");
-        System.out.println("records: peak of the native's scratch records live at once during one call.");
-        System.out.println("Java heap: bytes the calling thread allocated during one call (the tree and any garbage).");
+        System.out.println("Java floor: the same tree (or record bytes) made by plain Java code.");
+        System.out.println("JNI floor: made by hand-written JNI code, every class, constructor and field looked up"
+            + " once per call, local references deleted in the loops, stdout flushed before each record as"
+            + " the natives must; a reader looks each element's fields up by the element's own class.");
+        System.out.println("JNI lax: the same without the flushes (builders) or the per-element class test (reader).");
+        System.out.println("/Java, /JNI: median/call over the Java floor and over the JNI floor.");
+        System.out.println("paired: median over the rounds' calls of (native call / the JNI floor build timed right"
+            + " after it); steadier than /JNI when the machine's load changes during the run.");
     }
 
     private static final class Result {
@@ -96,38 +116,46 @@ public final class Bench {
         double p90Ns;
         double quietNs;
         double floorNs;
-        long recordPeak;
-        long javaBytes;
+        double jniNs;
+        double laxNs;
+        double pairedRatio;
     }
 
     private static Result measure(Case c) {
         Result r = new Result();
         c.script(false);
-        long allocated = allocatedBytes();
-        Object got = c.callNative();
-        r.javaBytes = allocatedBytes() - allocated;
-        r.recordPeak = FakePernix.peakBytes();
-        Object floor = c.buildFloor();
-        String diff = difference(got, floor, c.name());
-        if (diff != null) throw new AssertionError("the floor does not build the native's tree: " + diff);
-        r.objects = count(got, new IdentityHashMap<>());
+        Object got = c.result(c.callNative());
+        for (Object floor : new Object[] {c.buildFloor(), c.buildJni(false), c.buildJni(true)}) {
+            String diff = difference(got, floor, c.name());
+            if (diff != null) throw new AssertionError("a floor does not build the native's tree: " + diff);
+        }
+        r.objects = count(c.builds() ? got : c.input(), new IdentityHashMap<>());
 
         for (int i = 0; i < WARMUP; i++) {
             timeNative(c, false);
-            timeNative(c, true);
+            if (c.builds()) timeNative(c, true);
+            sink = c.buildJni(false);
+            sink = c.buildJni(true);
         }
         for (int i = 0; i < 10 * FLOOR; i++) sink = c.buildFloor();
 
         long[] nat = new long[ROUNDS * CALLS];
         long[] quiet = new long[ROUNDS * CALLS];
         long[] flo = new long[ROUNDS * FLOOR];
+        long[] jni = new long[ROUNDS * CALLS];
+        long[] lax = new long[ROUNDS * CALLS];
         for (int round = 0; round < ROUNDS; round++) {
-            for (int i = 0; i < CALLS; i++) nat[round * CALLS + i] = timeNative(c, false);
-            for (int i = 0; i < CALLS; i++) quiet[round * CALLS + i] = timeNative(c, true);
+            // Interleaved, so that a burst of load on the machine hits all of them alike.
+            for (int i = 0; i < CALLS; i++) {
+                nat[round * CALLS + i] = timeNative(c, false);
+                if (c.builds()) quiet[round * CALLS + i] = timeNative(c, true);
+                jni[round * CALLS + i] = timeJni(c, false);
+                lax[round * CALLS + i] = timeJni(c, true);
+            }
             for (int i = 0; i < FLOOR; i++) {
-                long t0 = System.nanoTime();
+                long t0 = now();
                 Object o = c.buildFloor();
-                long t1 = System.nanoTime();
+                long t1 = now();
                 sink = o;
                 flo[round * FLOOR + i] = t1 - t0;
             }
@@ -137,6 +165,12 @@ public final class Bench {
         r.p90Ns = percentile(nat, 90);
         r.quietNs = median(quiet);
         r.floorNs = median(flo);
+        r.jniNs = median(jni);
+        r.laxNs = median(lax);
+        double[] ratios = new double[nat.length];
+        for (int i = 0; i < nat.length; i++) ratios[i] = (double) nat[i] / jni[i];
+        Arrays.sort(ratios);
+        r.pairedRatio = ratios[ratios.length / 2];
         c.script(false);
         sink = null;
         return r;
@@ -144,21 +178,26 @@ public final class Bench {
 
     private static long timeNative(Case c, boolean quiet) {
         c.script(quiet);
-        long t0 = System.nanoTime();
+        long t0 = now();
         Object o = c.callNative();
-        long t1 = System.nanoTime();
+        long t1 = now();
         if ((o == null) != quiet) throw new AssertionError(c.name() + " returned " + o);
         sink = o;
         return t1 - t0;
     }
 
-    private static long allocatedBytes() {
-        return ((com.sun.management.ThreadMXBean) java.lang.management.ManagementFactory.getThreadMXBean())
-            .getCurrentThreadAllocatedBytes();
+    private static long timeJni(Case c, boolean lax) {
+        long t0 = now();
+        Object o = c.buildJni(lax);
+        long t1 = now();
+        if (o == null) throw new AssertionError(c.name() + ": the hand-written JNI build failed");
+        sink = o;
+        return t1 - t0;
     }
 
-    private static String mb(long bytes) {
-        return String.format(Locale.ROOT, "%.2f MB", bytes / 1048576.0);
+    /** The clock every call is timed with. */
+    private static long now() {
+        return CPU ? THREADS.getCurrentThreadCpuTime() : System.nanoTime();
     }
 
     private static double median(long[] v) {
@@ -175,7 +214,7 @@ public final class Bench {
     }
 
     private static String ms(double ns) {
-        return String.format(Locale.ROOT, "%.3f ms", ns / 1e6);
+        return String.format(Locale.ROOT, "%.3f", ns / 1e6);
     }
 
     private static List<Field> fields(Class<?> cls) {
@@ -216,7 +255,7 @@ public final class Bench {
             }
             return null;
         }
-        if (cls == Integer.class || cls == Short.class) return a.equals(b) ? null : path + ": " + a + " against " + b;
+        if (a instanceof Number) return a.equals(b) ? null : path + ": " + a + " against " + b;
         try {
             for (Field f : fields(cls)) {
                 String d = difference(f.get(a), f.get(b), path + "." + f.getName());

@@ -46,8 +46,28 @@ public abstract class Case {
     /** The same tree as the native builds, from the same bytes, in plain Java. */
     public abstract Object buildFloor();
 
+    /** The same tree built by hand-written JNI code (HandJni); lax: see HandJni. Null: none written yet. */
+    public Object buildJni(boolean lax) {
+        return null;
+    }
+
+    /** Whether the native builds a Java tree (false: it reads one into a record). */
+    public boolean builds() {
+        return true;
+    }
+
+    /** The Java tree a reader converts; null for a builder. */
+    public Object input() {
+        return null;
+    }
+
+    /** What the floors are compared with: the tree the native returned. */
+    public Object result(Object returned) {
+        return returned;
+    }
+
     /** Fresh test double serving the record; quiet: the library answers 256 (no conversion). */
-    public final void script(boolean quiet) {
+    public void script(boolean quiet) {
         this.quiet = quiet;
         FakePernix.reset();
         FakePernix.willWrite(fn, recordArg, bytes);

@@ -37,6 +37,11 @@ final class Cases {
         }
 
         @Override
+        public Object buildJni(boolean lax) {
+            return HandJni.logicalUnits(bytes, lax);
+        }
+
+        @Override
         public Object buildFloor() {
             ByteBuffer b = le();
             LogicalUnit[] list = new LogicalUnit[4096];
@@ -93,6 +98,11 @@ final class Cases {
         }
 
         @Override
+        public Object buildJni(boolean lax) {
+            return HandJni.areaInformation(bytes, lax);
+        }
+
+        @Override
         public Object buildFloor() {
             ByteBuffer b = le();
             RGAreaInformation r = new RGAreaInformation();
@@ -141,6 +151,11 @@ final class Cases {
         @Override
         public Object callNative() {
             return JNI.KX_GetRaidGroupInformation(UNIT, SESSION);
+        }
+
+        @Override
+        public Object buildJni(boolean lax) {
+            return HandJni.raidGroupInformation(bytes, lax);
         }
 
         @Override

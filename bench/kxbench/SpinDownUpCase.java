@@ -30,6 +30,11 @@ public final class SpinDownUpCase extends Case {
     }
 
     @Override
+    public Object buildJni(boolean lax) {
+        return HandJni.spinDownUp(bytes, lax);
+    }
+
+    @Override
     public Object buildFloor() {
         ByteBuffer b = le();
         SpinDownUpInformation info = new SpinDownUpInformation();

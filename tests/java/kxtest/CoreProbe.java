@@ -25,4 +25,9 @@ public final class CoreProbe {
     public static native int errorThrow(int code);
     public static native int classNotFoundThrow(String path);
     public static native Object newObject(String classPath);
+
+    /** Reads a CallLookupsTest.Table in one call's lookups (stuffed: left without room). */
+    public static native int readRows(Object table, boolean stuffed, byte[] dst);
+    /** Builds the RAID group report from its record bytes twice in one call. */
+    public static native Object[] writeGroupsTwice(byte[] record, boolean stuffed);
 }

@@ -1,0 +1,22 @@
+package kxbench;
+
+/**
+ * The benchmark's reference: the same trees built, and the same input record
+ * read, by hand-written JNI code that looks every class, constructor and field
+ * up once per call (tests/probe/handmade.cpp, in the test-only probe library).
+ * lax: builders without the fflush before each record, a reader that uses the
+ * first element's field IDs for every element.
+ */
+final class HandJni {
+    static {
+        System.load(System.getProperty("kx.probe"));
+    }
+
+    private HandJni() {}
+
+    static native Object logicalUnits(byte[] record, boolean lax);
+    static native Object areaInformation(byte[] record, boolean lax);
+    static native Object raidGroupInformation(byte[] record, boolean lax);
+    static native Object spinDownUp(byte[] record, boolean lax);
+    static native byte[] createRaidGroup(Object create, boolean lax);
+}
