@@ -227,6 +227,54 @@ public class FrameTableTest extends BridgeTest {
         return n;
     }
 
+    // ------------------------------------------------------------ filled inputs
+
+    static boolean isRecord(Class<?> c) {
+        return c.getName().startsWith(RECORD_PACKAGE) && !Throwable.class.isAssignableFrom(c);
+    }
+
+    /** A value of type t with every field set to non-zero data (arrays at their constructed length, or 2). */
+    static Object filled(Class<?> t, Object current) throws ReflectiveOperationException {
+        if (t == String.class) return "abc";
+        if (t.isArray()) {
+            Object a = current != null ? current : Array.newInstance(t.getComponentType(), 2);
+            Class<?> e = t.getComponentType();
+            for (int i = 0; i < Array.getLength(a); i++) {
+                if (e == int.class) Array.setInt(a, i, 0x05050505);
+                else if (e == byte.class) Array.setByte(a, i, (byte) 7);
+                else if (!e.isPrimitive()) Array.set(a, i, filled(e, Array.get(a, i)));
+            }
+            return a;
+        }
+        if (!isRecord(t)) return current;
+        Object o = current != null ? current : t.getConstructor().newInstance();
+        for (Field f : t.getFields()) {
+            if (Modifier.isStatic(f.getModifiers())) continue;
+            if (f.getType() == int.class) f.setInt(o, 0x05050505);
+            else if (f.getType() == short.class) f.setShort(o, (short) 0x0505);
+            else if (!f.getType().isPrimitive()) f.set(o, filled(f.getType(), f.get(o)));
+        }
+        return o;
+    }
+
+    /** The bytes of every argument of the only call of fn (null for a null pointer). */
+    static List<byte[]> handedOver(String fn) {
+        List<byte[]> out = new ArrayList<>();
+        if (FakePernix.calls(fn) != 1) return out;
+        for (int i = 0; i < FakePernix.releases(fn, 0).length; i++) out.add(FakePernix.arg(fn, 0, i));
+        return out;
+    }
+
+    Outcome invokeWith(Row r, Object[] args) throws ReflectiveOperationException {
+        Outcome o = new Outcome();
+        try {
+            o.result = r.method.invoke(jni, args);
+        } catch (InvocationTargetException e) {
+            o.thrown = e.getCause();
+        }
+        return o;
+    }
+
     // ------------------------------------------------------------ checking
 
     /** Problems found, a line each; the test fails listing all of them. */
@@ -348,6 +396,48 @@ public class FrameTableTest extends BridgeTest {
                         break;
                 }
                 checkSeamAfter(r, what);
+            }
+        }
+        done();
+    }
+
+    @Test
+    public void aReaderStopsAtANullNestedMemberLeavingTheRestOfItsRecordClear() throws Exception {
+        for (Row r : table()) {
+            if (r.special) continue;
+            Class<?>[] types = r.method.getParameterTypes();
+            for (int p = 0; p < types.length; p++) {
+                if (!isRecord(types[p])) continue;
+                for (Field f : types[p].getFields()) {
+                    Class<?> ft = f.getType();
+                    if (Modifier.isStatic(f.getModifiers()) || !(ft.isArray() || isRecord(ft))) continue;
+                    String what = "input " + types[p].getSimpleName() + " with " + f.getName() + " null";
+                    Object[] args = plainArgs(r.method);
+                    FakePernix.reset();
+                    args[p] = filled(types[p], null);
+                    invokeWith(r, args);
+                    List<byte[]> full = handedOver(r.name);
+                    checkSeamAfter(r, what);
+                    Object cut = filled(types[p], null);
+                    f.set(cut, null);
+                    args[p] = cut;
+                    invokeWith(r, args);
+                    List<byte[]> sent = handedOver(r.name);
+                    check(r, what, sent.size() == full.size() && !full.isEmpty(), "library not called alike");
+                    for (int i = 0; i < Math.min(full.size(), sent.size()); i++) {
+                        byte[] a = full.get(i);
+                        byte[] b = sent.get(i);
+                        if (a == null || b == null || a.length != b.length) continue;
+                        int o = 0;
+                        while (o < a.length && a[o] == b[o]) o++;
+                        int rest = o;
+                        while (rest < b.length && b[rest] == 0) rest++;
+                        check(r, what + ", argument " + i, rest == b.length,
+                              "bytes written after the null member (first difference at " + o
+                              + ", non-zero again at " + rest + ")");
+                    }
+                    checkSeamAfter(r, what);
+                }
             }
         }
         done();
