@@ -56,7 +56,7 @@ public final class Bench {
         System.out.printf("%d warm-up calls, then %d rounds of %d timed calls, %d calls answered 256"
             + " and %d floor builds; medians per call.%n", WARMUP, ROUNDS, CALLS, CALLS, FLOOR);
         System.out.println("Note: this is the test build. Every record goes through the test double's allocation"
-            + " seam (zero fill, 32 guard bytes each side, bookkeeping under a lock), and the double copies"
+            + " seam (poison fill, 32 guard bytes each side, bookkeeping under a lock), and the double copies"
             + " every record it is handed and then writes the scripted output; \"frame+fake\" is that share.");
         System.out.println();
         System.out.printf(Locale.ROOT, "%-30s %8s %12s %19s %12s %12s %12s %8s%n", "native", "objects",

@@ -313,6 +313,33 @@ public class FrameTableTest extends BridgeTest {
         check(r, what, n == expected, n + " flush(es) before the library call, " + expected + " expected");
     }
 
+    /**
+     * Against the plain call, a null that goes on changes one argument at most
+     * (exactly one for a String, whose "u" is gone), into a null pointer or
+     * all-zero bytes.
+     */
+    void checkNullGoesOnCleared(Row r, String what, int nullRef) throws ReflectiveOperationException {
+        List<byte[]> sent = handedOver(r.name);
+        checkSeamAfter(r, what);
+        invoke(r, -1);
+        List<byte[]> plain = handedOver(r.name);
+        checkSeamAfter(r, "plain call");
+        if (sent.size() != plain.size()) return;
+        int changed = 0;
+        for (int k = 0; k < sent.size(); k++) {
+            if (Arrays.equals(sent.get(k), plain.get(k))) continue;
+            changed++;
+            byte[] b = sent.get(k);
+            boolean clear = true;
+            for (int j = 0; b != null && j < b.length; j++) clear &= b[j] == 0;
+            check(r, what, clear, "argument " + k + " reached the library holding data");
+        }
+        Class<?> type = Arrays.stream(r.method.getParameterTypes()).filter(c -> !c.isPrimitive())
+            .skip(nullRef).findFirst().get();
+        int expected = type == String.class ? 1 : changed;
+        check(r, what, changed <= 1 && changed == expected, changed + " argument(s) changed by the null");
+    }
+
     void done() {
         if (!problems.isEmpty()) fail(problems.size() + " problem(s):\n" + String.join("\n", problems));
     }
@@ -391,6 +418,7 @@ public class FrameTableTest extends BridgeTest {
                         if (!r.special) check(r, what, o.thrown == null, describe(o));
                         checkCalled(r, what, true);
                         checkFlushBeforeCall(r, what, before);
+                        checkNullGoesOnCleared(r, what, i);
                         break;
                     default:
                         break;
