@@ -10,9 +10,11 @@ shift 3
 log=$(mktemp)
 trap 'rm -f "$log"' EXIT
 here=$(cd "$(dirname "$0")" && pwd)
+preload=${LD_PRELOAD:-}
 shim="$(dirname "$fake")/libkxflush.so"
+[ -e "$shim" ] && preload="$shim${preload:+:$preload}"
 LD_LIBRARY_PATH="$(dirname "$fake")${LD_LIBRARY_PATH:+:$LD_LIBRARY_PATH}" \
-  LD_PRELOAD="$shim${LD_PRELOAD:+:$LD_PRELOAD}" KX_FLUSH_FROM="$bridge" \
+  LD_PRELOAD="$preload" KX_FLUSH_FROM="$bridge" \
   java -Xcheck:jni -ea -Dkx.library="$bridge" -Dkx.fake="$fake" -Dkx.frames="$here/frames" \
   -Dkx.probe="$(dirname "$fake")/libkxprobe.so" -cp "$cp" \
   org.junit.runner.JUnitCore "$@" 2>&1 | tee "$log"

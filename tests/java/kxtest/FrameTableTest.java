@@ -156,11 +156,7 @@ public class FrameTableTest extends BridgeTest {
         Object[] args = new Object[types.length];
         for (int i = 0; i < types.length; i++) {
             Class<?> t = types[i];
-            if (t == int.class) args[i] = 0;
-            else if (t == long.class) args[i] = 0L;
-            else if (t == short.class) args[i] = (short) 0;
-            else if (t == byte.class) args[i] = (byte) 0;
-            else if (t == boolean.class) args[i] = false;
+            if (t.isPrimitive()) args[i] = Array.get(Array.newInstance(t, 1), 0);  // 0, false
             else if (t == String.class) args[i] = "u";
             else if (t.isArray() && t.getComponentType().isPrimitive()) args[i] = Array.newInstance(t.getComponentType(), 65536);
             else if (t.isArray()) args[i] = Array.newInstance(t.getComponentType(), 0);

@@ -55,7 +55,7 @@ public abstract class VariantTable extends BridgeTest {
 
     static Object plain(Class<?> t) {
         try {
-            if (t == int.class) return 0;
+            if (t.isPrimitive()) return Array.get(Array.newInstance(t, 1), 0);
             if (t == String.class) return "u";
             if (t.isArray()) return Array.newInstance(t.getComponentType(), t.getComponentType().isPrimitive() ? 65536 : 0);
             return t.getConstructor().newInstance();
