@@ -5,25 +5,39 @@
 #include <cstring>
 
 #ifdef KX_ALLOC_SEAM
-// Test builds route every record through the test double of the array
-// library, which can fail a chosen allocation, counts blocks and checks guard
-// bytes around each one on release.  Weak, so that a test build also runs
-// against an array library without the seam (plain calloc and free then).
+// Test builds take every record's raw memory from the test double of the
+// array library, which can fail a chosen allocation, hands out blocks full of
+// garbage (so only the clearing below shows zeros), checks guard bytes around
+// each block on release and that a block released with `wipe` was cleared.
+// Weak, so that a test build also runs against an array library without the
+// seam (plain malloc and free then).
 extern "C" void* pernix_seam_alloc(size_t bytes) __attribute__((weak));
-extern "C" void pernix_seam_free(void* block, size_t bytes) __attribute__((weak));
+extern "C" void pernix_seam_free(void* block, size_t bytes, int wipe) __attribute__((weak));
 #endif
 
 namespace kx {
+
+namespace {
+
+void* raw_block(std::size_t bytes) {
+#ifdef KX_ALLOC_SEAM
+  if (pernix_seam_alloc != nullptr) return pernix_seam_alloc(bytes);
+#endif
+  return std::malloc(bytes == 0 ? 1 : bytes);
+}
+
+}  // namespace
 
 void* allocate(std::ptrdiff_t count, std::size_t size) {
   if (count < 0 || size == 0) return nullptr;
   auto n = static_cast<std::size_t>(count);
   if (n != 0 && size > SIZE_MAX / n) return nullptr;
   std::size_t bytes = n * size;
-#ifdef KX_ALLOC_SEAM
-  if (pernix_seam_alloc != nullptr) return pernix_seam_alloc(bytes);
-#endif
-  return std::calloc(bytes == 0 ? 1 : bytes, 1);
+  void* block = raw_block(bytes);
+  // Records reach the library zero-filled: the clearing is ours, whatever
+  // the memory held before.
+  if (block != nullptr) std::memset(block, 0, bytes);
+  return block;
 }
 
 void release(void* block, std::size_t bytes, bool wipe) {
@@ -34,7 +48,7 @@ void release(void* block, std::size_t bytes, bool wipe) {
     for (std::size_t i = 0; i < bytes; ++i) p[i] = 0;
   }
 #ifdef KX_ALLOC_SEAM
-  if (pernix_seam_free != nullptr) return pernix_seam_free(block, bytes);
+  if (pernix_seam_free != nullptr) return pernix_seam_free(block, bytes, wipe ? 1 : 0);
 #endif
   (void)bytes;
   std::free(block);

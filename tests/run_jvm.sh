@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Runs JUnit test classes in a JVM with -Xcheck:jni against the bridge and the
-# test double (the core probe library sits beside the double).  Fails when a
-# test fails or the JVM reports any JNI misuse.
+# test double (the core probe library and the flush shim sit beside the
+# double; the shim is preloaded to count the bridge's flushes of stdout).  Fails
+# when a test fails or the JVM reports any JNI misuse.
 # usage: run_jvm.sh [--java=<launcher>] [--seam=yes|no] <classpath> <bridge.so> <fake libpernix.so> <test class>...
 #   --java  the JVM to run (default: java on the PATH); the i386 legs pass the 32-bit one
 #   --seam  whether the bridge has the test allocation seam (default yes).  Checked
@@ -38,10 +39,15 @@ seam_prop=true
 
 log=$(mktemp)
 trap 'rm -f "$log"' EXIT
+here=$(cd "$(dirname "$0")" && pwd)
+preload=${LD_PRELOAD:-}
+shim="$(dirname "$fake")/libkxflush.so"
+[ -e "$shim" ] && preload="$shim${preload:+:$preload}"
 LD_LIBRARY_PATH="$(dirname "$fake")${LD_LIBRARY_PATH:+:$LD_LIBRARY_PATH}" \
+  LD_PRELOAD="$preload" KX_FLUSH_FROM="$bridge" \
   "$java" -Xcheck:jni -ea -Dkx.library="$bridge" -Dkx.fake="$fake" -Dkx.seam="$seam_prop" \
-  -Dkx.probe="$(dirname "$fake")/libkxprobe.so" -XX:ErrorFile="${TMPDIR:-/tmp}/kx_hs_err_%p.log" \
-  -cp "$cp" kxtest.Runner "$@" 2>&1 | tee "$log"
+  -Dkx.frames="$here/frames" -Dkx.probe="$(dirname "$fake")/libkxprobe.so" \
+  -XX:ErrorFile="${TMPDIR:-/tmp}/kx_hs_err_%p.log" -cp "$cp" kxtest.Runner "$@" 2>&1 | tee "$log"
 rc=${PIPESTATUS[0]}
 if grep -qE 'WARNING in native method|FATAL ERROR|WARNING: JNI|Warning: JNI' "$log"; then
   echo "run_jvm: the JVM reported JNI misuse (see above)"

@@ -81,7 +81,7 @@ public final class Bench {
             + " %d plain-Java builds and %d hand-written JNI builds of each kind; medians per call.%n",
             WARMUP, ROUNDS, CALLS, CALLS, FLOOR, CALLS);
         System.out.println("Note: this is the test build. Every record goes through the test double's allocation"
-            + " seam (zero fill, 32 guard bytes each side, bookkeeping under a lock), and the double copies"
+            + " seam (poison fill, 32 guard bytes each side, bookkeeping under a lock), and the double copies"
             + " every record it is handed and then writes the scripted output; \"frame+fake\" is that share.");
         System.out.println();
         System.out.printf(Locale.ROOT, "%-28s %7s %11s %17s %10s %10s %10s %10s %7s %6s %7s%n", "native", "objects",

@@ -4,6 +4,9 @@
 
 #include <jni.h>
 
+#include <dlfcn.h>
+
+#include <algorithm>
 #include <cstdlib>
 #include <map>
 #include <mutex>
@@ -13,7 +16,20 @@ namespace fake {
 namespace {
 
 constexpr size_t kGuard = 32;
-constexpr uint8_t kGuardByte = 0xA5;
+constexpr uint8_t kGuardByte = 0x5A;
+// Fresh blocks hold this byte throughout: only the bridge's own clearing
+// shows zeros.  Released blocks are overwritten with kFreedByte.
+constexpr uint8_t kPoisonByte = 0xA5;
+constexpr uint8_t kFreedByte = 0xDD;
+// A run this long of the poison byte in a block handed to the library means
+// the block was not cleared.
+constexpr size_t kPoisonRun = 8;
+
+struct Block {
+  size_t bytes = 0;
+  long call = -1;  // the call that was handed the block, and as which argument
+  size_t arg = 0;
+};
 
 struct State {
   std::recursive_mutex mu;
@@ -23,9 +39,11 @@ struct State {
   // seam
   long allocations = 0;
   long fail_at = 0;  // 1-based index of the allocation that fails; 0: none
-  std::map<const void*, size_t> live;
+  std::map<const void*, Block> live;
   size_t live_bytes = 0;
   size_t peak_bytes = 0;  // most bytes live at once since reset
+  // Kept across reset(): only takeFaults() forgets them, so a fault is never
+  // lost to a test that resets the double midway.
   std::vector<std::string> faults;
   std::map<size_t, long> unwiped;  // released blocks that still held non-zero bytes, by size
 };
@@ -37,24 +55,43 @@ State& state() {
 
 }  // namespace
 
+long stdout_flushes() {
+  using Counter = long (*)();
+  static const auto counter = reinterpret_cast<Counter>(dlsym(RTLD_DEFAULT, "kx_stdout_flushes"));
+  return counter == nullptr ? -1 : counter();
+}
+
 Call& begin(const char* fn) {
   State& s = state();
   s.mu.lock();
-  s.calls.push_back(Call{fn, {}});
+  s.calls.push_back(Call{fn, {}, stdout_flushes()});
   return s.calls.back();
 }
 
 void record(Call& call, const void* p, size_t size) {
+  State& s = state();
   Arg a;
   if (p == nullptr) {
     a.is_null = true;
   } else {
-    auto it = state().live.find(p);
-    if (it != state().live.end() && it->second < size) {
-      state().faults.push_back(call.fn + ": argument " + std::to_string(call.args.size()) +
-                               " is a block of " + std::to_string(it->second) + " bytes, " +
-                               std::to_string(size) + " expected");
-      size = it->second;
+    auto it = s.live.find(p);
+    if (it != s.live.end()) {
+      if (it->second.bytes < size) {
+        s.faults.push_back(call.fn + ": argument " + std::to_string(call.args.size()) +
+                           " is a block of " + std::to_string(it->second.bytes) + " bytes, " +
+                           std::to_string(size) + " expected");
+        size = it->second.bytes;
+      }
+      it->second.call = static_cast<long>(s.calls.size()) - 1;
+      it->second.arg = call.args.size();
+      a.release = Arg::Live;
+      const auto* b = static_cast<const uint8_t*>(p);
+      size_t run = 0;
+      for (size_t i = 0; i < size && run < kPoisonRun; ++i) run = b[i] == kPoisonByte ? run + 1 : 0;
+      if (run == kPoisonRun) {
+        s.faults.push_back(call.fn + ": argument " + std::to_string(call.args.size()) +
+                           " handed over without being cleared");
+      }
     }
     const auto* b = static_cast<const uint8_t*>(p);
     a.bytes.assign(b, b + size);
@@ -106,15 +143,16 @@ extern "C" __attribute__((visibility("default"))) void* pernix_seam_alloc(size_t
   auto* raw = static_cast<uint8_t*>(std::malloc(bytes + 2 * kGuard));
   if (raw == nullptr) return nullptr;
   std::memset(raw, kGuardByte, kGuard);
-  std::memset(raw + kGuard, 0, bytes);
+  std::memset(raw + kGuard, kPoisonByte, bytes);
   std::memset(raw + kGuard + bytes, kGuardByte, kGuard);
-  s.live[raw + kGuard] = bytes;
+  s.live[raw + kGuard] = Block{bytes};
   s.live_bytes += bytes;
   s.peak_bytes = std::max(s.peak_bytes, s.live_bytes);
   return raw + kGuard;
 }
 
-extern "C" __attribute__((visibility("default"))) void pernix_seam_free(void* block, size_t bytes) {
+extern "C" __attribute__((visibility("default"))) void pernix_seam_free(void* block, size_t bytes,
+                                                                        int wipe) {
   using namespace fake;
   State& s = state();
   std::lock_guard<std::recursive_mutex> lock(s.mu);
@@ -123,27 +161,41 @@ extern "C" __attribute__((visibility("default"))) void pernix_seam_free(void* bl
     s.faults.push_back("release of a block that is not live (double or foreign release)");
     return;
   }
-  if (it->second != bytes) {
-    s.faults.push_back("block of " + std::to_string(it->second) + " bytes released as " +
+  const Block b = it->second;
+  if (b.bytes != bytes) {
+    s.faults.push_back("block of " + std::to_string(b.bytes) + " bytes released as " +
                        std::to_string(bytes));
   }
   auto* raw = static_cast<uint8_t*>(block) - kGuard;
   for (size_t i = 0; i < kGuard; ++i) {
-    if (raw[i] != kGuardByte || raw[kGuard + it->second + i] != kGuardByte) {
-      s.faults.push_back("guard bytes of a " + std::to_string(it->second) +
-                         "-byte block overwritten");
+    if (raw[i] != kGuardByte || raw[kGuard + b.bytes + i] != kGuardByte) {
+      s.faults.push_back("guard bytes of a " + std::to_string(b.bytes) + "-byte block overwritten");
       break;
     }
   }
-  const uint8_t* body = raw + kGuard;
-  for (size_t i = 0; i < it->second; ++i) {
-    if (body[i] != 0) {
-      ++s.unwiped[it->second];
+  for (size_t i = 0; i < b.bytes; ++i) {
+    if (raw[kGuard + i] != 0) {
+      ++s.unwiped[b.bytes];
       break;
     }
   }
-  s.live_bytes -= it->second;
+  s.live_bytes -= b.bytes;
+  if (wipe != 0) {
+    for (size_t i = 0; i < b.bytes; ++i) {
+      if (raw[kGuard + i] != 0) {
+        s.faults.push_back("a " + std::to_string(b.bytes) +
+                           "-byte block released as wiped still holds data at byte " +
+                           std::to_string(i));
+        break;
+      }
+    }
+  }
+  if (b.call >= 0 && static_cast<size_t>(b.call) < s.calls.size()) {
+    auto& args = s.calls[static_cast<size_t>(b.call)].args;
+    if (b.arg < args.size()) args[b.arg].release = wipe != 0 ? Arg::ReleasedWiped : Arg::Released;
+  }
   s.live.erase(it);
+  std::memset(raw, kFreedByte, b.bytes + 2 * kGuard);
   std::free(raw);
 }
 
@@ -195,10 +247,17 @@ FAKE_JNI(void, reset)(JNIEnv*, jclass) {
   s.outputs.clear();
   s.allocations = 0;
   s.fail_at = 0;
-  s.faults.clear();
+  // Blocks still live were leaked by whatever ran before: a fault, kept
+  // until the test's own check takes it.
+  if (!s.live.empty()) {
+    s.faults.push_back(std::to_string(s.live.size()) + " block(s) never released");
+    for (auto& [block, b] : s.live) {
+      auto* raw = static_cast<uint8_t*>(const_cast<void*>(block)) - fake::kGuard;
+      std::free(raw);
+    }
+    s.live.clear();
+  }
   s.unwiped.clear();
-  // Blocks still live belong to the test that leaked them; it has been told.
-  s.live.clear();
   s.live_bytes = 0;
   s.peak_bytes = 0;
 }
@@ -304,4 +363,35 @@ FAKE_JNI(jint, unwipedReleases)(JNIEnv*, jclass, jint size) {
   std::lock_guard<std::recursive_mutex> lock(state().mu);
   auto it = state().unwiped.find(static_cast<size_t>(size));
   return it == state().unwiped.end() ? 0 : static_cast<jint>(it->second);
+}
+
+FAKE_JNI(jstring, takeFaults)(JNIEnv* env, jclass) {
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  std::ostringstream out;
+  for (const auto& f : state().faults) out << f << '\n';
+  state().faults.clear();
+  return env->NewStringUTF(out.str().c_str());
+}
+
+FAKE_JNI(jlong, flushes)(JNIEnv*, jclass) {
+  return static_cast<jlong>(fake::stdout_flushes());
+}
+
+FAKE_JNI(jlong, flushesAtCall)(JNIEnv* env, jclass, jstring fn, jint call) {
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  const fake::Call* c = find_call(env, utf(env, fn), call);
+  return c == nullptr ? -1 : static_cast<jlong>(c->flushes);
+}
+
+// Per argument of the call'th call of fn: 0 not a block of the seam, 1 still
+// live, 2 released, 3 released wiped.
+FAKE_JNI(jintArray, releases)(JNIEnv* env, jclass, jstring fn, jint call) {
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  const fake::Call* c = find_call(env, utf(env, fn), call);
+  if (c == nullptr) return nullptr;
+  std::vector<jint> r;
+  for (const auto& a : c->args) r.push_back(static_cast<jint>(a.release));
+  jintArray out = env->NewIntArray(static_cast<jsize>(r.size()));
+  if (out != nullptr) env->SetIntArrayRegion(out, 0, static_cast<jsize>(r.size()), r.data());
+  return out;
 }

@@ -35,12 +35,19 @@ struct Arg {
   int32_t value = 0;           // Int arguments
   std::vector<uint8_t> bytes;  // pointer arguments: the bytes as handed over
   std::vector<Arg> pointees;   // records that pointers inside this one lead to
+  // A seam block handed over here: how the bridge released it.
+  enum Release : uint8_t { NotABlock, Live, Released, ReleasedWiped } release = NotABlock;
 };
 
 struct Call {
   std::string fn;
   std::vector<Arg> args;
+  long flushes = -1;  // stdout flushes by the bridge before this call (-1: not counted)
 };
+
+// Flushes of stdout the bridge has made since the JVM started, as counted by
+// the flush shim preloaded into the test JVM; -1 without the shim.
+long stdout_flushes();
 
 // Starts recording a call of `fn`; finish() serves the scripted result.
 // Both take the fake's lock; use them only through the kinds below (or, for a

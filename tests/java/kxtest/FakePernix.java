@@ -14,7 +14,10 @@ public final class FakePernix {
 
     private FakePernix() {}
 
-    /** Forgets calls, scripts and seam state. */
+    /**
+     * Forgets calls, scripts and seam state.  Release faults are kept (and blocks
+     * still live become one) until {@link #takeFaults} takes them.
+     */
     public static native void reset();
 
     /** Every later call of fn returns code. */
@@ -74,6 +77,32 @@ public final class FakePernix {
     /** Most bytes of the bridge's blocks live at once since reset. */
     public static native long peakBytes();
 
-    /** Release faults seen: double or foreign releases, size mismatches, overwritten guards. */
+    /**
+     * Release faults seen and not yet taken: double or foreign releases, size
+     * mismatches, overwritten guards, secrets not cleared, blocks never released,
+     * blocks handed to the library without being cleared.
+     */
     public static native String faults();
+
+    /** The faults seen so far, forgotten from now on. */
+    public static native String takeFaults();
+
+    /** The bridge's flushes of stdout since the JVM started; -1 when the flush shim is not loaded. */
+    public static native long flushes();
+
+    /** The bridge's flushes of stdout made before the call'th call (0-based) of fn. */
+    public static native long flushesAtCall(String fn, int call);
+
+    public static final int NOT_A_BLOCK = 0, LIVE = 1, RELEASED = 2, RELEASED_WIPED = 3;
+
+    /** For each argument of the call'th call of fn: how the block handed there was released. */
+    public static native int[] releases(String fn, int call);
+
+    /** Indices of the arguments of the call'th call of fn whose blocks were released wiped. */
+    public static java.util.Set<Integer> wipedArgs(String fn, int call) {
+        java.util.Set<Integer> out = new java.util.TreeSet<>();
+        int[] r = releases(fn, call);
+        for (int i = 0; i < r.length; i++) if (r[i] == RELEASED_WIPED) out.add(i);
+        return out;
+    }
 }

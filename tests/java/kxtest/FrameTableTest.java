@@ -1,0 +1,514 @@
+package kxtest;
+
+import static org.junit.Assert.assertTrue;
+import static org.junit.Assert.fail;
+
+import java.io.IOException;
+import java.lang.reflect.Array;
+import java.lang.reflect.Field;
+import java.lang.reflect.InvocationTargetException;
+import java.lang.reflect.Method;
+import java.lang.reflect.Modifier;
+import java.nio.file.Files;
+import java.nio.file.Path;
+import java.nio.file.Paths;
+import java.util.ArrayList;
+import java.util.Arrays;
+import java.util.IdentityHashMap;
+import java.util.List;
+import java.util.Map;
+import java.util.Set;
+import java.util.TreeMap;
+import java.util.TreeSet;
+import java.util.stream.Collectors;
+import java.util.stream.Stream;
+import orvane.str.diskarray.DiskArrayUtilityJNI;
+import org.junit.Test;
+
+/**
+ * The frame every native shares, checked for every native from one table: the
+ * tests/frames/*.tsv files, a line per native (see {@link Row}).  Each native is
+ * called with plain arguments: "u" for a String, a new instance for a record
+ * object, an empty array of objects, a zero-filled primitive array of 65536
+ * elements, 0 for an int.
+ */
+public class FrameTableTest extends BridgeTest {
+    static final int LIBRARY_CODE = 1234;
+    static final String RECORD_PACKAGE = "orvane.str.diskarray.";
+
+    /**
+     * One line: {@code KX_Name nulls flush [special] [key=value ...]}.
+     * <ul>
+     * <li>nulls: a letter per reference parameter in declaration order, or "-":
+     *     R refused (258, nothing allocated, library not called), C goes on
+     *     (library called), M 2817 without a call, Q null/0 quietly without a
+     *     call, X covered by the native's own tests;
+     * <li>flush: F on entry and before a successful return, N never, X other;
+     * <li>special: only the null and flush columns hold for it;
+     * <li>wipe=i,j: library arguments (0-based) whose blocks must be released wiped;
+     * <li>failed=v: the int an int native answers after a failure (default 0);
+     * <li>noflush=A,B: record classes whose writers do not flush stdout.
+     * </ul>
+     */
+    static final class Row {
+        String where;
+        String name;
+        String nulls;
+        char flush;
+        boolean special;
+        Set<Integer> wipe = new TreeSet<>();
+        int failed;
+        Set<String> noflush = new TreeSet<>();
+        Method method;
+
+        public String toString() {
+            return name + " (" + where + ")";
+        }
+    }
+
+    static Path tableDir() {
+        return Paths.get(System.getProperty("kx.frames", "tests/frames"));
+    }
+
+    static List<Row> readTable(List<String> problems) throws IOException {
+        List<Row> rows = new ArrayList<>();
+        List<Path> files;
+        try (Stream<Path> s = Files.list(tableDir())) {
+            files = s.filter(p -> p.toString().endsWith(".tsv")).sorted().collect(Collectors.toList());
+        }
+        for (Path file : files) {
+            List<String> lines = Files.readAllLines(file);
+            for (int i = 0; i < lines.size(); i++) {
+                String line = lines.get(i);
+                int hash = line.indexOf('#');
+                if (hash >= 0) line = line.substring(0, hash);
+                line = line.trim();
+                if (line.isEmpty()) continue;
+                String[] t = line.split("\\s+");
+                Row r = new Row();
+                r.where = file.getFileName() + ":" + (i + 1);
+                r.name = t[0];
+                if (t.length < 3 || !t[1].matches("-|[RCMQX]+") || !t[2].matches("[FNX]")) {
+                    problems.add(r.where + ": malformed line: " + lines.get(i));
+                    continue;
+                }
+                r.nulls = t[1].equals("-") ? "" : t[1];
+                r.flush = t[2].charAt(0);
+                for (int k = 3; k < t.length; k++) {
+                    String[] kv = t[k].split("=", 2);
+                    if (t[k].equals("special")) {
+                        r.special = true;
+                    } else if (kv.length == 2 && kv[0].equals("wipe")) {
+                        for (String v : kv[1].split(",")) r.wipe.add(Integer.parseInt(v));
+                    } else if (kv.length == 2 && kv[0].equals("failed")) {
+                        r.failed = Integer.parseInt(kv[1]);
+                    } else if (kv.length == 2 && kv[0].equals("noflush")) {
+                        r.noflush.addAll(Arrays.asList(kv[1].split(",")));
+                    } else {
+                        problems.add(r.where + ": unknown word " + t[k]);
+                    }
+                }
+                rows.add(r);
+            }
+        }
+        return rows;
+    }
+
+    /** The table joined with the Java declaration; fails listing every mismatch. */
+    static List<Row> table() throws IOException {
+        List<String> problems = new ArrayList<>();
+        List<Row> rows = readTable(problems);
+        Map<String, Method> declared = new TreeMap<>();
+        for (Method m : DiskArrayUtilityJNI.class.getDeclaredMethods()) {
+            if (Modifier.isNative(m.getModifiers())) declared.put(m.getName(), m);
+        }
+        Map<String, Row> seen = new TreeMap<>();
+        for (Row r : rows) {
+            if (seen.containsKey(r.name)) problems.add(r.where + ": second row of " + r.name);
+            seen.put(r.name, r);
+            r.method = declared.get(r.name);
+            if (r.method == null) {
+                problems.add(r.where + ": " + r.name + " is not a native of DiskArrayUtilityJNI");
+                continue;
+            }
+            long refs = Arrays.stream(r.method.getParameterTypes()).filter(c -> !c.isPrimitive()).count();
+            if (r.nulls.length() != refs) {
+                problems.add(r.where + ": " + r.name + " has " + refs + " reference parameter(s), the row "
+                             + r.nulls.length() + " letter(s)");
+            }
+        }
+        for (String name : declared.keySet()) {
+            if (!seen.containsKey(name)) problems.add("no row for native " + name);
+        }
+        if (!problems.isEmpty()) fail(problems.size() + " table problem(s):\n" + String.join("\n", problems));
+        return rows;
+    }
+
+    // ------------------------------------------------------------ calling
+
+    static final class Outcome {
+        Object result;
+        Throwable thrown;
+    }
+
+    static Object[] plainArgs(Method m) throws ReflectiveOperationException {
+        Class<?>[] types = m.getParameterTypes();
+        Object[] args = new Object[types.length];
+        for (int i = 0; i < types.length; i++) {
+            Class<?> t = types[i];
+            if (t.isPrimitive()) args[i] = Array.get(Array.newInstance(t, 1), 0);  // 0, false
+            else if (t == String.class) args[i] = "u";
+            else if (t.isArray() && t.getComponentType().isPrimitive()) args[i] = Array.newInstance(t.getComponentType(), 65536);
+            else if (t.isArray()) args[i] = Array.newInstance(t.getComponentType(), 0);
+            else args[i] = VariantTable.plain(t);  // null when the class has no no-argument constructor
+        }
+        return args;
+    }
+
+    /** Plain arguments with reference parameter `nullRef` (counted among references only) null; -1: none. */
+    Outcome invoke(Row r, int nullRef) throws ReflectiveOperationException {
+        Object[] args = plainArgs(r.method);
+        Class<?>[] types = r.method.getParameterTypes();
+        for (int i = 0, ref = 0; i < types.length; i++) {
+            if (types[i].isPrimitive()) continue;
+            if (ref++ == nullRef) args[i] = null;
+        }
+        Outcome o = new Outcome();
+        try {
+            o.result = r.method.invoke(jni, args);
+        } catch (InvocationTargetException e) {
+            o.thrown = e.getCause();
+        }
+        return o;
+    }
+
+    static Integer codeOf(Throwable t) {
+        if (t == null || !t.getClass().getName().equals("orvane.str.diskarray.DiskArrayException")) return null;
+        try {
+            return (Integer) t.getClass().getMethod("getCode").invoke(t);
+        } catch (ReflectiveOperationException e) {
+            throw new AssertionError(e);
+        }
+    }
+
+    static String describe(Outcome o) {
+        if (o.thrown == null) return "returned " + o.result;
+        Integer c = codeOf(o.thrown);
+        return c != null ? "threw code " + c : "threw " + o.thrown;
+    }
+
+    /** The value a failing call answers: null, or the int of the row. */
+    static boolean failedResult(Row r, Object result) {
+        Class<?> t = r.method.getReturnType();
+        if (t == void.class) return true;
+        if (t == int.class) return Integer.valueOf(r.failed).equals(result);
+        return result == null;
+    }
+
+    /** Record objects reachable from a result: each was made by a writer that flushes first. */
+    static int records(Object o, Set<String> quiet, Map<Object, Boolean> seen) throws IllegalAccessException {
+        if (o == null || seen.put(o, true) != null) return 0;
+        Class<?> c = o.getClass();
+        if (c.isArray()) {
+            if (c.getComponentType().isPrimitive()) return 0;
+            int n = 0;
+            for (int i = 0; i < Array.getLength(o); i++) n += records(Array.get(o, i), quiet, seen);
+            return n;
+        }
+        if (!c.getName().startsWith(RECORD_PACKAGE)) return 0;
+        int n = quiet.contains(c.getSimpleName()) ? 0 : 1;
+        for (Field f : c.getFields()) {
+            if (!Modifier.isStatic(f.getModifiers()) && !f.getType().isPrimitive()) n += records(f.get(o), quiet, seen);
+        }
+        return n;
+    }
+
+    // ------------------------------------------------------------ filled inputs
+
+    static boolean isRecord(Class<?> c) {
+        return c.getName().startsWith(RECORD_PACKAGE) && !Throwable.class.isAssignableFrom(c);
+    }
+
+    /** A value of type t with every field set to non-zero data (arrays at their constructed length, or 2). */
+    static Object filled(Class<?> t, Object current) throws ReflectiveOperationException {
+        if (t == String.class) return "abc";
+        if (t.isArray()) {
+            Object a = current != null ? current : Array.newInstance(t.getComponentType(), 2);
+            Class<?> e = t.getComponentType();
+            for (int i = 0; i < Array.getLength(a); i++) {
+                if (e == int.class) Array.setInt(a, i, 0x05050505);
+                else if (e == byte.class) Array.setByte(a, i, (byte) 7);
+                else if (!e.isPrimitive()) Array.set(a, i, filled(e, Array.get(a, i)));
+            }
+            return a;
+        }
+        if (!isRecord(t)) return current;
+        Object o = current != null ? current : VariantTable.plain(t);
+        if (o == null) return null;
+        for (Field f : t.getFields()) {
+            if (Modifier.isStatic(f.getModifiers())) continue;
+            if (f.getType() == int.class) f.setInt(o, 0x05050505);
+            else if (f.getType() == short.class) f.setShort(o, (short) 0x0505);
+            else if (!f.getType().isPrimitive()) f.set(o, filled(f.getType(), f.get(o)));
+        }
+        return o;
+    }
+
+    /** The bytes of every argument of the only call of fn (null for a null pointer). */
+    static List<byte[]> handedOver(String fn) {
+        List<byte[]> out = new ArrayList<>();
+        if (FakePernix.calls(fn) != 1) return out;
+        for (int i = 0; i < FakePernix.releases(fn, 0).length; i++) out.add(FakePernix.arg(fn, 0, i));
+        return out;
+    }
+
+    Outcome invokeWith(Row r, Object[] args) throws ReflectiveOperationException {
+        Outcome o = new Outcome();
+        try {
+            o.result = r.method.invoke(jni, args);
+        } catch (InvocationTargetException e) {
+            o.thrown = e.getCause();
+        }
+        return o;
+    }
+
+    // ------------------------------------------------------------ checking
+
+    /** Problems found, a line each; the test fails listing all of them. */
+    final List<String> problems = new ArrayList<>();
+
+    void check(Row r, String what, boolean ok, String detail) {
+        if (!ok) problems.add(r + ": " + what + ": " + detail);
+    }
+
+    /** Faults and leaks of the run just made; resets the double. */
+    void checkSeamAfter(Row r, String what) {
+        int live = FakePernix.liveBlocks();
+        FakePernix.reset();
+        String faults = FakePernix.takeFaults();
+        check(r, what, live == 0 && faults.isEmpty(), live + " live block(s); faults: " + faults.trim());
+    }
+
+    void checkCalled(Row r, String what, boolean once) {
+        List<String> log = Arrays.asList(FakePernix.log());
+        List<String> expected = once ? List.of(r.name) : List.of();
+        check(r, what, log.equals(expected), "library calls " + log);
+    }
+
+    /** Flushes on a path that fails, or that refuses before the library: entry only. */
+    void checkFailingFlushes(Row r, String what, long before) {
+        if (r.flush == 'X') return;
+        long expected = r.flush == 'F' ? 1 : 0;
+        long n = FakePernix.flushes() - before;
+        check(r, what, n == expected, n + " flush(es) of stdout, " + expected + " expected");
+    }
+
+    void checkFlushBeforeCall(Row r, String what, long before) {
+        if (r.flush == 'X' || FakePernix.calls(r.name) == 0) return;
+        long expected = r.flush == 'F' ? 1 : 0;
+        long n = FakePernix.flushesAtCall(r.name, 0) - before;
+        check(r, what, n == expected, n + " flush(es) before the library call, " + expected + " expected");
+    }
+
+    /**
+     * Against the plain call, a null that goes on changes one argument at most
+     * (exactly one for a String, whose "u" is gone), into a null pointer or
+     * all-zero bytes.
+     */
+    void checkNullGoesOnCleared(Row r, String what, int nullRef) throws ReflectiveOperationException {
+        List<byte[]> sent = handedOver(r.name);
+        checkSeamAfter(r, what);
+        invoke(r, -1);
+        List<byte[]> plain = handedOver(r.name);
+        checkSeamAfter(r, "plain call");
+        if (sent.size() != plain.size()) return;
+        int changed = 0;
+        for (int k = 0; k < sent.size(); k++) {
+            if (Arrays.equals(sent.get(k), plain.get(k))) continue;
+            changed++;
+            byte[] b = sent.get(k);
+            boolean clear = true;
+            for (int j = 0; b != null && j < b.length; j++) clear &= b[j] == 0;
+            check(r, what, clear, "argument " + k + " reached the library holding data");
+        }
+        Class<?> type = Arrays.stream(r.method.getParameterTypes()).filter(c -> !c.isPrimitive())
+            .skip(nullRef).findFirst().get();
+        int expected = type == String.class ? 1 : changed;
+        check(r, what, changed <= 1 && changed == expected, changed + " argument(s) changed by the null");
+    }
+
+    void done() {
+        if (!problems.isEmpty()) fail(problems.size() + " problem(s):\n" + String.join("\n", problems));
+    }
+
+    @Test
+    public void everyDeclaredNativeHasOneWellFormedRow() throws IOException {
+        assertTrue(table().size() > 0);
+    }
+
+    @Test
+    public void aSuccessfulCallReachesTheLibraryOnceWithClearedRecordsAndFlushesAsItsRowSays() throws Exception {
+        long shim = FakePernix.flushes();
+        assertTrue("the flush shim is not loaded (run_jvm.sh preloads libkxflush.so)", shim >= 0);
+        for (Row r : table()) {
+            FakePernix.reset();
+            long before = FakePernix.flushes();
+            Outcome o = invoke(r, -1);
+            long after = FakePernix.flushes();
+            checkFlushBeforeCall(r, "success", before);
+            if (r.special) {
+                checkSeamAfter(r, "success");
+                continue;
+            }
+            check(r, "success", o.thrown == null, describe(o));
+            checkCalled(r, "success", true);
+            if (FakePernix.calls(r.name) == 1) {
+                int[] rel = FakePernix.releases(r.name, 0);
+                for (int i = 0; i < rel.length; i++) {
+                    byte[] b = FakePernix.arg(r.name, 0, i);
+                    boolean poisoned = false;
+                    for (int k = 0; b != null && k < b.length; k++) poisoned |= b[k] == (byte) 0xA5;
+                    check(r, "argument " + i, !poisoned, "reached the library holding bytes it was never given");
+                    check(r, "argument " + i, rel[i] != FakePernix.LIVE, "block not released");
+                }
+                Set<Integer> wiped = FakePernix.wipedArgs(r.name, 0);
+                check(r, "secrets", wiped.equals(r.wipe), "arguments released wiped " + wiped + ", expected " + r.wipe);
+                if (r.flush != 'X' && o.thrown == null) {
+                    long writers = records(o.result, r.noflush, new IdentityHashMap<>());
+                    long expected = writers + (r.flush == 'F' ? 1 : 0);
+                    long n = after - FakePernix.flushesAtCall(r.name, 0);
+                    check(r, "success", n == expected, n + " flush(es) after the library call, " + expected
+                          + " expected (" + writers + " by record writers)");
+                }
+            }
+            checkSeamAfter(r, "success");
+        }
+        done();
+    }
+
+    @Test
+    public void nullReferenceArgumentsAreHandledAsTheirRowSays() throws Exception {
+        for (Row r : table()) {
+            for (int i = 0; i < r.nulls.length(); i++) {
+                char kind = r.nulls.charAt(i);
+                if (kind == 'X') continue;
+                String what = "null reference argument " + (i + 1) + " (" + kind + ")";
+                FakePernix.reset();
+                long before = FakePernix.flushes();
+                Outcome o = invoke(r, i);
+                Integer code = codeOf(o.thrown);
+                switch (kind) {
+                    case 'R':
+                    case 'M':
+                        int expected = kind == 'R' ? 258 : 2817;
+                        check(r, what, Integer.valueOf(expected).equals(code), describe(o));
+                        check(r, what, FakePernix.allocations() == 0 || kind == 'M',
+                              FakePernix.allocations() + " allocation(s) before the refusal");
+                        checkCalled(r, what, false);
+                        checkFailingFlushes(r, what, before);
+                        break;
+                    case 'Q':
+                        check(r, what, o.thrown == null && failedResult(r, o.result), describe(o));
+                        checkCalled(r, what, false);
+                        break;
+                    case 'C':
+                        if (!r.special) check(r, what, o.thrown == null, describe(o));
+                        checkCalled(r, what, true);
+                        checkFlushBeforeCall(r, what, before);
+                        checkNullGoesOnCleared(r, what, i);
+                        break;
+                    default:
+                        break;
+                }
+                checkSeamAfter(r, what);
+            }
+        }
+        done();
+    }
+
+    @Test
+    public void aReaderStopsAtANullNestedMemberLeavingTheRestOfItsRecordClear() throws Exception {
+        for (Row r : table()) {
+            if (r.special) continue;
+            Class<?>[] types = r.method.getParameterTypes();
+            for (int p = 0; p < types.length; p++) {
+                if (!isRecord(types[p])) continue;
+                for (Field f : types[p].getFields()) {
+                    Class<?> ft = f.getType();
+                    if (Modifier.isStatic(f.getModifiers()) || !(ft.isArray() || isRecord(ft))) continue;
+                    String what = "input " + types[p].getSimpleName() + " with " + f.getName() + " null";
+                    Object[] args = plainArgs(r.method);
+                    FakePernix.reset();
+                    args[p] = filled(types[p], null);
+                    invokeWith(r, args);
+                    List<byte[]> full = handedOver(r.name);
+                    checkSeamAfter(r, what);
+                    Object cut = filled(types[p], null);
+                    f.set(cut, null);
+                    args[p] = cut;
+                    invokeWith(r, args);
+                    List<byte[]> sent = handedOver(r.name);
+                    check(r, what, sent.size() == full.size() && !full.isEmpty(), "library not called alike");
+                    for (int i = 0; i < Math.min(full.size(), sent.size()); i++) {
+                        byte[] a = full.get(i);
+                        byte[] b = sent.get(i);
+                        if (a == null || b == null || a.length != b.length) continue;
+                        int o = 0;
+                        while (o < a.length && a[o] == b[o]) o++;
+                        int rest = o;
+                        while (rest < b.length && b[rest] == 0) rest++;
+                        check(r, what + ", argument " + i, rest == b.length,
+                              "bytes written after the null member (first difference at " + o
+                              + ", non-zero again at " + rest + ")");
+                    }
+                    checkSeamAfter(r, what);
+                }
+            }
+        }
+        done();
+    }
+
+    @Test
+    public void eachAllocationFailingInTurnIsReportedAsOutOfMemoryWithNothingLeaked() throws Exception {
+        for (Row r : table()) {
+            if (r.special) continue;
+            FakePernix.reset();
+            invoke(r, -1);
+            int n = FakePernix.allocations();
+            for (int k = 1; k <= n; k++) {
+                String what = "allocation " + k + " of " + n + " failing";
+                FakePernix.reset();
+                FakePernix.failAllocation(k);
+                long before = FakePernix.flushes();
+                Outcome o = invoke(r, -1);
+                boolean oom = o.thrown instanceof ClassNotFoundException
+                              && "java/lang/OutofMemoryError".equals(o.thrown.getMessage());
+                check(r, what, oom, describe(o));
+                checkCalled(r, what, false);
+                checkFailingFlushes(r, what, before);
+                checkSeamAfter(r, what);
+            }
+        }
+        done();
+    }
+
+    @Test
+    public void theLibrarysCodeIsThrownUnchangedAnd256AnswersQuietly() throws Exception {
+        for (Row r : table()) {
+            if (r.special) continue;
+            for (int rc : new int[] {LIBRARY_CODE, 256}) {
+                String what = "library result " + rc;
+                FakePernix.reset();
+                FakePernix.willReturn(r.name, rc);
+                long before = FakePernix.flushes();
+                Outcome o = invoke(r, -1);
+                if (rc == 256) check(r, what, o.thrown == null && failedResult(r, o.result), describe(o));
+                else check(r, what, Integer.valueOf(rc).equals(codeOf(o.thrown)), describe(o));
+                checkCalled(r, what, true);
+                checkFailingFlushes(r, what, before);
+                checkSeamAfter(r, what);
+            }
+        }
+        done();
+    }
+}

@@ -1,0 +1,111 @@
+package kxtest;
+
+import static org.junit.Assert.fail;
+
+import java.lang.reflect.Array;
+import java.lang.reflect.InvocationTargetException;
+import java.lang.reflect.Method;
+import java.lang.reflect.Modifier;
+import java.nio.file.Files;
+import java.nio.file.Path;
+import java.util.ArrayList;
+import java.util.IdentityHashMap;
+import java.util.List;
+import java.util.Map;
+import java.util.TreeMap;
+import orvane.str.diskarray.DiskArrayUtilityJNI;
+import org.junit.Test;
+
+/**
+ * What each native answers against a variant's fixture classes, from the
+ * variant's expect.tsv (a line per native: {@code KX_Name outcome}):
+ * <ul>
+ * <li>a number: DiskArrayException with that code;
+ * <li>{@code null}: null, nothing thrown;
+ * <li>{@code full}: a result with no null element or member anywhere;
+ * <li>{@code partial}: a result, some elements possibly null;
+ * <li>the simple name of a Throwable class: that is thrown (the JVM's own error).
+ * </ul>
+ * Each native is called once with the plain arguments of the frame table and
+ * must reach the library exactly once, releasing every block.  A variant's
+ * test extends this class and names its folder.
+ */
+public abstract class VariantTable extends BridgeTest {
+    private final String variant;
+
+    protected VariantTable(String variant) {
+        this.variant = variant;
+    }
+
+    static boolean hasNull(Object o, Map<Object, Boolean> seen) throws IllegalAccessException {
+        if (o == null) return true;
+        if (seen.put(o, true) != null) return false;
+        Class<?> c = o.getClass();
+        if (c.isArray()) {
+            if (c.getComponentType().isPrimitive()) return false;
+            for (int i = 0; i < Array.getLength(o); i++) if (hasNull(Array.get(o, i), seen)) return true;
+            return false;
+        }
+        if (!FrameTableTest.isRecord(c)) return false;
+        for (java.lang.reflect.Field f : c.getFields()) {
+            if (!Modifier.isStatic(f.getModifiers()) && !f.getType().isPrimitive() && hasNull(f.get(o), seen)) return true;
+        }
+        return false;
+    }
+
+    static Object plain(Class<?> t) {
+        try {
+            if (t.isPrimitive()) return Array.get(Array.newInstance(t, 1), 0);
+            if (t == String.class) return "u";
+            if (t.isArray()) return Array.newInstance(t.getComponentType(), t.getComponentType().isPrimitive() ? 65536 : 0);
+            return t.getConstructor().newInstance();
+        } catch (ReflectiveOperationException | LinkageError e) {
+            return null;  // a class of the variant that cannot be made
+        }
+    }
+
+    @Test
+    public void eachNativeAnswersAsTheVariantExpects() throws Exception {
+        Path file = FrameTableTest.tableDir().resolveSibling("java").resolve("variants").resolve(variant)
+            .resolve("expect.tsv");
+        Map<String, Method> natives = new TreeMap<>();
+        for (Method m : DiskArrayUtilityJNI.class.getDeclaredMethods()) {
+            if (Modifier.isNative(m.getModifiers())) natives.put(m.getName(), m);
+        }
+        List<String> problems = new ArrayList<>();
+        for (String line : Files.readAllLines(file)) {
+            int hash = line.indexOf('#');
+            String[] t = (hash >= 0 ? line.substring(0, hash) : line).trim().split("\\s+");
+            if (t[0].isEmpty()) continue;
+            Method m = natives.get(t[0]);
+            if (m == null || t.length < 2) {
+                problems.add("bad line: " + line);
+                continue;
+            }
+            Object[] args = new Object[m.getParameterCount()];
+            for (int i = 0; i < args.length; i++) args[i] = plain(m.getParameterTypes()[i]);
+            FakePernix.reset();
+            FrameTableTest.Outcome o = new FrameTableTest.Outcome();
+            try {
+                o.result = m.invoke(jni, args);
+            } catch (InvocationTargetException e) {
+                o.thrown = e.getCause();
+            }
+            String expected = t[1];
+            Integer code = FrameTableTest.codeOf(o.thrown);
+            boolean ok;
+            if (expected.matches("-?\\d+")) ok = Integer.valueOf(expected).equals(code);
+            else if (expected.equals("null")) ok = o.thrown == null && o.result == null;
+            else if (expected.equals("partial")) ok = o.thrown == null && o.result != null;
+            else if (expected.equals("full")) ok = o.thrown == null && !hasNull(o.result, new IdentityHashMap<>());
+            else ok = o.thrown != null && o.thrown.getClass().getSimpleName().equals(expected);
+            if (!ok) problems.add(t[0] + ": expected " + expected + ", " + FrameTableTest.describe(o));
+            if (FakePernix.calls(t[0]) != 1) problems.add(t[0] + ": library called " + FakePernix.calls(t[0]) + " time(s)");
+            int live = FakePernix.liveBlocks();
+            FakePernix.reset();
+            String faults = FakePernix.takeFaults();
+            if (live != 0 || !faults.isEmpty()) problems.add(t[0] + ": " + live + " live block(s); " + faults.trim());
+        }
+        if (!problems.isEmpty()) fail(problems.size() + " problem(s):\n" + String.join("\n", problems));
+    }
+}

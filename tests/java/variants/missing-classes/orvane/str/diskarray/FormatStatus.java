@@ -1,0 +1,14 @@
+package orvane.str.diskarray;
+
+/** Cannot be initialised: the JVM cannot find it for the bridge. */
+public class FormatStatus {
+    static {
+        if (!Boolean.getBoolean("kx.never")) throw new IllegalStateException("unusable class");
+    }
+
+    public int entry;
+    public int status;
+    public int percent;
+    public int err_code_sense_key;
+    public int err_code_sense_code;
+}

@@ -1,0 +1,15 @@
+package orvane.str.diskarray;
+
+/** Lacks alert, the last field whose failure drops the object. */
+public class KXUnitParam {
+    public String unit_name;
+    public String group_name;
+    public int connect_type;
+    public int kx_type;
+    public int device_type;
+    public int unit_conf;
+    public int alert_absent;
+    public String ctl0;
+    public String ctl1;
+    public String serial;
+}
