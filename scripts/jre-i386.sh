@@ -63,7 +63,14 @@ fi
 {
   echo '#!/bin/sh'
   echo "# The 32-bit OpenJDK 17 of the i386 test legs (written by scripts/jre-i386.sh)."
-  echo "exec ${runner[*]} \"$home/bin/java\" ${vmopts[*]} \"\$@\""
+  # Objects to preload into the VM come as KX_PRELOAD32: given as LD_PRELOAD
+  # they would be offered to this 64-bit shell (and the emulator) first.
+  if [ ${#runner[@]} -gt 0 ]; then
+    echo "exec ${runner[*]} \${KX_PRELOAD32:+-E LD_PRELOAD=\"\$KX_PRELOAD32\"} \"$home/bin/java\" ${vmopts[*]} \"\$@\""
+  else
+    echo '[ -n "${KX_PRELOAD32:-}" ] && export LD_PRELOAD="$KX_PRELOAD32"'
+    echo "exec \"$home/bin/java\" \"\$@\""
+  fi
 } > "$launcher.tmp"
 chmod +x "$launcher.tmp"
 mv "$launcher.tmp" "$launcher"

@@ -40,13 +40,21 @@ seam_prop=true
 log=$(mktemp)
 trap 'rm -f "$log"' EXIT
 here=$(cd "$(dirname "$0")" && pwd)
-preload=${LD_PRELOAD:-}
+frames=$(printf '%s:' "$here"/frames/*.tsv)
+preload=${LD_PRELOAD:-} preload32=
 shim="$(dirname "$fake")/libkxflush.so"
-[ -e "$shim" ] && preload="$shim${preload:+:$preload}"
+if [ -e "$shim" ]; then
+  # An i386 shim goes to the 32-bit VM through its launcher (KX_PRELOAD32).
+  if [ "$(od -An -tx1 -j4 -N1 "$shim" | tr -d ' ')" = 01 ]; then
+    preload32=$shim
+  else
+    preload="$shim${preload:+:$preload}"
+  fi
+fi
 LD_LIBRARY_PATH="$(dirname "$fake")${LD_LIBRARY_PATH:+:$LD_LIBRARY_PATH}" \
-  LD_PRELOAD="$preload" KX_FLUSH_FROM="$bridge" \
+  LD_PRELOAD="$preload" KX_PRELOAD32="$preload32" KX_FLUSH_FROM="$bridge" \
   "$java" -Xcheck:jni -ea -Dkx.library="$bridge" -Dkx.fake="$fake" -Dkx.seam="$seam_prop" \
-  -Dkx.frames="$here/frames" -Dkx.probe="$(dirname "$fake")/libkxprobe.so" \
+  -Dkx.frames="$frames" -Dkx.tests="$here" -Dkx.probe="$(dirname "$fake")/libkxprobe.so" \
   -XX:ErrorFile="${TMPDIR:-/tmp}/kx_hs_err_%p.log" -cp "$cp" kxtest.Runner "$@" 2>&1 | tee "$log"
 rc=${PIPESTATUS[0]}
 if grep -qE 'WARNING in native method|FATAL ERROR|WARNING: JNI|Warning: JNI' "$log"; then

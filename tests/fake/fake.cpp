@@ -337,7 +337,7 @@ FAKE_JNI(void, failAllocationAt)(JNIEnv*, jclass, jint k) {
   state().fail_at = k;
 }
 
-FAKE_JNI(jint, allocations)(JNIEnv*, jclass) {
+FAKE_JNI(jint, allocationCount)(JNIEnv*, jclass) {
   std::lock_guard<std::recursive_mutex> lock(state().mu);
   return static_cast<jint>(state().allocations);
 }
@@ -359,7 +359,7 @@ FAKE_JNI(jstring, faults)(JNIEnv* env, jclass) {
   return env->NewStringUTF(out.str().c_str());
 }
 
-FAKE_JNI(jint, unwipedReleases)(JNIEnv*, jclass, jint size) {
+FAKE_JNI(jint, unwipedCount)(JNIEnv*, jclass, jint size) {
   std::lock_guard<std::recursive_mutex> lock(state().mu);
   auto it = state().unwiped.find(static_cast<size_t>(size));
   return it == state().unwiped.end() ? 0 : static_cast<jint>(it->second);
@@ -385,7 +385,7 @@ FAKE_JNI(jlong, flushesAtCall)(JNIEnv* env, jclass, jstring fn, jint call) {
 
 // Per argument of the call'th call of fn: 0 not a block of the seam, 1 still
 // live, 2 released, 3 released wiped.
-FAKE_JNI(jintArray, releases)(JNIEnv* env, jclass, jstring fn, jint call) {
+FAKE_JNI(jintArray, releaseStates)(JNIEnv* env, jclass, jstring fn, jint call) {
   std::lock_guard<std::recursive_mutex> lock(state().mu);
   const fake::Call* c = find_call(env, utf(env, fn), call);
   if (c == nullptr) return nullptr;

@@ -72,7 +72,7 @@ public abstract class BridgeTest {
         FakePernix.reset();
         body.run();
         Assume.assumeTrue("the library under test has no allocation seam", FakePernix.SEAM);
-        int n = FakePernix.allocations();
+        int n = FakePernix.allocationCount();
         assertTrue("body allocates nothing", n > 0);
         for (int k = 1; k <= n; k++) {
             FakePernix.reset();

@@ -66,17 +66,27 @@ public class FrameTableTest extends BridgeTest {
         }
     }
 
-    static Path tableDir() {
-        return Paths.get(System.getProperty("kx.frames", "tests/frames"));
+    /**
+     * The table files: kx.frames names them, separated by the path separator
+     * (the runner lists them, since a 32-bit JVM may fail to list a folder on a
+     * file system with 64-bit inode numbers), or names the folder that holds them.
+     */
+    static List<Path> tableFiles() throws IOException {
+        String spec = System.getProperty("kx.frames", "tests/frames");
+        Path dir = Paths.get(spec);
+        if (!Files.isDirectory(dir)) {
+            List<Path> named = new ArrayList<>();
+            for (String f : spec.split(java.io.File.pathSeparator)) if (!f.isEmpty()) named.add(Paths.get(f));
+            return named;
+        }
+        try (Stream<Path> s = Files.list(dir)) {
+            return s.filter(p -> p.toString().endsWith(".tsv")).sorted().collect(Collectors.toList());
+        }
     }
 
     static List<Row> readTable(List<String> problems) throws IOException {
         List<Row> rows = new ArrayList<>();
-        List<Path> files;
-        try (Stream<Path> s = Files.list(tableDir())) {
-            files = s.filter(p -> p.toString().endsWith(".tsv")).sorted().collect(Collectors.toList());
-        }
-        for (Path file : files) {
+        for (Path file : tableFiles()) {
             List<String> lines = Files.readAllLines(file);
             for (int i = 0; i < lines.size(); i++) {
                 String line = lines.get(i);
@@ -258,7 +268,7 @@ public class FrameTableTest extends BridgeTest {
     static List<byte[]> handedOver(String fn) {
         List<byte[]> out = new ArrayList<>();
         if (FakePernix.calls(fn) != 1) return out;
-        for (int i = 0; i < FakePernix.releases(fn, 0).length; i++) out.add(FakePernix.arg(fn, 0, i));
+        for (int i = 0; i < FakePernix.releaseStates(fn, 0).length; i++) out.add(FakePernix.arg(fn, 0, i));
         return out;
     }
 
@@ -363,7 +373,7 @@ public class FrameTableTest extends BridgeTest {
             check(r, "success", o.thrown == null, describe(o));
             checkCalled(r, "success", true);
             if (FakePernix.calls(r.name) == 1) {
-                int[] rel = FakePernix.releases(r.name, 0);
+                int[] rel = FakePernix.releaseStates(r.name, 0);
                 for (int i = 0; i < rel.length; i++) {
                     byte[] b = FakePernix.arg(r.name, 0, i);
                     boolean poisoned = false;
@@ -371,8 +381,11 @@ public class FrameTableTest extends BridgeTest {
                     check(r, "argument " + i, !poisoned, "reached the library holding bytes it was never given");
                     check(r, "argument " + i, rel[i] != FakePernix.LIVE, "block not released");
                 }
-                Set<Integer> wiped = FakePernix.wipedArgs(r.name, 0);
-                check(r, "secrets", wiped.equals(r.wipe), "arguments released wiped " + wiped + ", expected " + r.wipe);
+                if (FakePernix.SEAM) {  // only the seam sees how a block was released
+                    Set<Integer> wiped = FakePernix.wipedArgs(r.name, 0);
+                    check(r, "secrets", wiped.equals(r.wipe), "arguments released wiped " + wiped + ", expected "
+                          + r.wipe);
+                }
                 if (r.flush != 'X' && o.thrown == null) {
                     long writers = records(o.result, r.noflush, new IdentityHashMap<>());
                     long expected = writers + (r.flush == 'F' ? 1 : 0);
@@ -402,8 +415,8 @@ public class FrameTableTest extends BridgeTest {
                     case 'M':
                         int expected = kind == 'R' ? 258 : 2817;
                         check(r, what, Integer.valueOf(expected).equals(code), describe(o));
-                        check(r, what, FakePernix.allocations() == 0 || kind == 'M',
-                              FakePernix.allocations() + " allocation(s) before the refusal");
+                        check(r, what, FakePernix.allocationCount() == 0 || kind == 'M',
+                              FakePernix.allocationCount() + " allocation(s) before the refusal");
                         checkCalled(r, what, false);
                         checkFailingFlushes(r, what, before);
                         break;
@@ -474,7 +487,7 @@ public class FrameTableTest extends BridgeTest {
             if (r.special) continue;
             FakePernix.reset();
             invoke(r, -1);
-            int n = FakePernix.allocations();
+            int n = FakePernix.allocationCount();
             for (int k = 1; k <= n; k++) {
                 String what = "allocation " + k + " of " + n + " failing";
                 FakePernix.reset();

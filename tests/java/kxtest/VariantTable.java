@@ -8,6 +8,7 @@ import java.lang.reflect.Method;
 import java.lang.reflect.Modifier;
 import java.nio.file.Files;
 import java.nio.file.Path;
+import java.nio.file.Paths;
 import java.util.ArrayList;
 import java.util.IdentityHashMap;
 import java.util.List;
@@ -66,8 +67,8 @@ public abstract class VariantTable extends BridgeTest {
 
     @Test
     public void eachNativeAnswersAsTheVariantExpects() throws Exception {
-        Path file = FrameTableTest.tableDir().resolveSibling("java").resolve("variants").resolve(variant)
-            .resolve("expect.tsv");
+        Path file = Paths.get(System.getProperty("kx.tests", "tests")).resolve("java").resolve("variants")
+            .resolve(variant).resolve("expect.tsv");
         Map<String, Method> natives = new TreeMap<>();
         for (Method m : DiskArrayUtilityJNI.class.getDeclaredMethods()) {
             if (Modifier.isNative(m.getModifiers())) natives.put(m.getName(), m);
