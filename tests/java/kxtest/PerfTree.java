@@ -148,9 +148,6 @@ final class PerfTree {
         return arr;
     }
 
-    /** One tree per class for pattern(), which walks it without changing it. */
-    private static final Map<Class<?>, Object> SHAPES = new HashMap<>();
-
     /** The patterned word at off. */
     static int word(int off, int seed) {
         return off * 0x9E3779B1 + seed;
@@ -168,7 +165,7 @@ final class PerfTree {
      */
     static byte[] pattern(Class<?> c, int size, int seed, boolean exact) {
         ByteBuffer b = ByteBuffer.allocate(size).order(ByteOrder.LITTLE_ENDIAN);
-        int end = walk(SHAPES.computeIfAbsent(c, PerfTree::shape), 0, (off, rate, cur) -> {
+        int end = walk(shape(c), 0, (off, rate, cur) -> {
             if (rate) {
                 int k = fixed(off, seed);
                 b.putDouble(off, exact ? k / 100.0 : (k + Math.signum(k) * 0.4) / 100.0);
