@@ -8,7 +8,7 @@
 //   PERF_LINKED_ARRAY(m, desc)  N such pointers <-> an array of N objects
 //   PERF_LINKED_TEXT(m)    a pointer to a 1024-byte file-name buffer <-> String m
 // A linked record is converted only when its pointer is set; the natives set
-// the pointers (perf/links.h) before they convert the request.
+// the pointers (perf/kinds.h) before they convert the request.
 #pragma once
 
 #include <type_traits>

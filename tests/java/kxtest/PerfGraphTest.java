@@ -7,6 +7,7 @@ import static org.junit.Assert.assertTrue;
 
 import java.nio.ByteBuffer;
 import java.nio.ByteOrder;
+import orvane.str.diskarray.KXTime;
 import orvane.str.diskarray.PerformanceAll;
 import orvane.str.diskarray.PerformanceCollectGraph;
 import orvane.str.diskarray.PerformanceCollectGraphInfo;
@@ -41,6 +42,8 @@ public class PerfGraphTest extends BridgeTest {
         b.putDouble(196888 + 4, 400.0);      // cache write-pending rate: wraps
         b.putDouble(218884 + 4, -0.019);     // processor use: toward zero
         b.putDouble(230416 + 12, 12.345);    // middle usage (spelled so)
+        b.putDouble(218896 + 4, 0.15);       // drive use: 15, not 14 (the product is a double first)
+        b.putDouble(218896 + 16 + 4, -0.15);
         String fn = "KX_PerformanceOutputGraphInfo";
         FakePernix.willWrite(fn, 3, twoGraphs(g0, PerfTree.pattern(PerformanceCollectGraph.class, GRAPH, 32, false)));
         PerformanceCollectGraphInfo out = jni.KX_PerformanceOutputGraphInfo("unit", SessionTest.session(4), request(50));
@@ -56,6 +59,10 @@ public class PerfGraphTest extends BridgeTest {
         assertEquals(-25536, g.cache.cachewritependingrate);
         assertEquals(-1, g.processor.used_rate);
         assertEquals(1234, g.cache2.cachemiddleusagegrate);
+        assertEquals(15, g.driveopr[0][0].operate_rate);
+        assertEquals(-15, g.driveopr[0][1].operate_rate);
+        g.driveopr[0][0].operate_rate = PerfTree.fixed(218896 + 4, 31);
+        g.driveopr[0][1].operate_rate = PerfTree.fixed(218896 + 16 + 4, 31);
         g.cache.cachewritependingrate = PerfTree.fixed(196888 + 4, 31);
         g.processor.used_rate = PerfTree.fixed(218884 + 4, 31);
         g.cache2.cachemiddleusagegrate = PerfTree.fixed(230416 + 12, 31);
@@ -97,15 +104,20 @@ public class PerfGraphTest extends BridgeTest {
         assertArrayEquals(PerfTree.pattern(PerformanceCollectGraph.class, GRAPH, 61, true), FakePernix.pointee(fn, 0, 1, 0));
         assertArrayEquals(PerfTree.pattern(PerformanceCollectGraph.class, GRAPH, 62, true), FakePernix.pointee(fn, 0, 1, 1));
 
-        info.graphinfo = new PerformanceCollectGraph[] {info.graphinfo[1]};
+        // graphs holding only their times: each read stops at its first missing array
+        PerformanceCollectGraph times = new PerformanceCollectGraph();
+        times.mtime = new KXTime[] {new KXTime(), new KXTime()};
+        times.mtime[1].tm_isdst = -7;
+        byte[] timesOnly = Rec.of(GRAPH).i32(44 + 32, -7).bytes();
+        info.graphinfo = new PerformanceCollectGraph[] {times};
         jni.KX_PerformanceDataOutput(null, info);
         assertTrue(FakePernix.isNull(fn, 1, 0));
-        assertArrayEquals(PerfTree.pattern(PerformanceCollectGraph.class, GRAPH, 62, true), FakePernix.pointee(fn, 1, 1, 0));
+        assertArrayEquals(timesOnly, FakePernix.pointee(fn, 1, 1, 0));
         assertArrayEquals("only one graph given", new byte[GRAPH], FakePernix.pointee(fn, 1, 1, 1));
 
-        info.graphinfo = new PerformanceCollectGraph[] {info.graphinfo[0], info.graphinfo[0], info.graphinfo[0]};
+        info.graphinfo = new PerformanceCollectGraph[] {times, times, times};
         jni.KX_PerformanceDataOutput("x", info);
-        assertEquals("three graphs: two taken", 3, FakePernix.calls(fn));
+        assertArrayEquals("three graphs: two taken", timesOnly, FakePernix.pointee(fn, 2, 1, 1));
         assertEachAllocationFailureReported(() -> jni.KX_PerformanceDataOutput("x", info));
     }
 }

@@ -96,10 +96,11 @@ public class PerfOutputTest extends BridgeTest {
         }
     }
 
-    static PerformanceOutputInfo outputInfo() throws ReflectiveOperationException {
+    /** A summary request; its first snapshot full when full is set. */
+    static PerformanceOutputInfo outputInfo(boolean full) throws ReflectiveOperationException {
         PerformanceOutputInfo info = new PerformanceOutputInfo();
         info.ctl = new byte[] {1, (byte) 0xFE};
-        PerformanceAll[] s = snapshots(20, true);
+        PerformanceAll[] s = snapshots(20, full);
         info.preinfo0 = s[0];
         info.afterinfo0 = s[1];
         info.preinfo1 = s[2];
@@ -114,7 +115,7 @@ public class PerfOutputTest extends BridgeTest {
 
     @Test
     public void outputAllHandsOverTheRequestItsFourSnapshotsAndItsFileName() throws Throwable {
-        jni.KX_PerformanceOutputAll(repeat('u', 66), outputInfo());
+        jni.KX_PerformanceOutputAll(repeat('u', 66), outputInfo(true));
         String fn = "KX_PerformanceOutputAll";
         assertCString(repeat('u', 66), 65, FakePernix.arg(fn, 0, 0));
         Rec r = Rec.wrap(FakePernix.arg(fn, 0, 1));
@@ -136,7 +137,7 @@ public class PerfOutputTest extends BridgeTest {
 
     @Test
     public void aShortSelectionArrayStopsTheRequestAndItsExceptionReachesJavaUnlessTheLibraryFails() throws Throwable {
-        PerformanceOutputInfo info = outputInfo();
+        PerformanceOutputInfo info = outputInfo(false);
         info.preinfo0 = info.afterinfo0 = info.preinfo1 = info.afterinfo1 = null;  // not needed here
         info.lu = new byte[10];
         String fn = "KX_PerformanceOutputAll";

@@ -43,18 +43,29 @@ public class PerfStatisticsTest extends BridgeTest {
     }
 
     @Test
-    public void statisticsConvertBackIntoTheSameRecord() {
+    public void statisticsConvertBackIntoTheSameRecord() throws ReflectiveOperationException {
         int[] status = {99, 99};
         StatisticalInformation s = PerfTree.patterned(StatisticalInformation.class, 17);
-        assertArrayEquals(PerfTree.pattern(StatisticalInformation.class, STATS, 17, true), PerfProbe.readStatistics(s, status));
+        byte[] want = PerfTree.pattern(StatisticalInformation.class, STATS, 17, true);
+        assertArrayEquals(want, PerfProbe.readStatistics(s, status));
         assertArrayEquals(new int[] {0, 0}, status);
 
-        // a table of too few rows stops the reader at its missing row
+        // a table of too few rows stops the reader at its missing row (the
+        // members before it given as empty arrays: nothing of theirs is read)
+        StatisticalInformation t = new StatisticalInformation();
+        t.unite_option = 5;
+        for (java.lang.reflect.Field f : PerfTree.fields(StatisticalInformation.class)) {
+            if (f.getType().isArray()) f.set(t, java.lang.reflect.Array.newInstance(f.getType().getComponentType(), 0));
+        }
+        t.writeafter = s.writeafter;
         s.writeafter[1].stripe_job_rmw = new int[29][15];
         s.writeafter[1].stripe_job_rmw[28][14] = 0x3C3C;
         int rmw = 722044 + 14408 + 3608;
-        Rec r = Rec.wrap(PerfProbe.readStatistics(s, status));
+        Rec r = Rec.wrap(PerfProbe.readStatistics(t, status));
         assertTrue("a failure, the JVM's exception left pending", status[0] != 0 && status[1] == 1);
+        assertEquals(5, r.i32(0));
+        assertTrue(r.zero(4, 722044 - 4));
+        assertArrayEquals(Rec.wrap(want).slice(722044, 14408 + 3608), r.slice(722044, 14408 + 3608));
         assertEquals(0x3C3C, r.i32(rmw + 4 * (29 * 15 - 1)));
         assertTrue("nothing after it", r.zero(rmw + 4 * 29 * 15, STATS - rmw - 4 * 29 * 15));
 
@@ -105,8 +116,15 @@ public class PerfStatisticsTest extends BridgeTest {
         FakePernix.willReturn("KX_GetPerformanceAll", 256);
         assertNull(jni.KX_GetPerformanceAll("unit", null, 0));
         assertEquals("session and two snapshots, twice", 6, FakePernix.allocations());
-        assertEachAllocationFailureReported(() -> jni.KX_GetPerformanceAll("unit", null, 0));
-        assertEachAllocationFailureReported(() -> jni.KX_GetPerformance("unit", null));
+        // 256: no trees to build on the run that counts the allocations
+        assertEachAllocationFailureReported(() -> {
+            FakePernix.willReturn("KX_GetPerformanceAll", 256);
+            jni.KX_GetPerformanceAll("unit", null, 0);
+        });
+        assertEachAllocationFailureReported(() -> {
+            FakePernix.willReturn("KX_GetPerformance", 256);
+            jni.KX_GetPerformance("unit", null);
+        });
     }
 
     @Test
