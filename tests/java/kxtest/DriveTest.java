@@ -6,7 +6,6 @@ import static kxtest.RaidGroupTest.put;
 import static org.junit.Assert.assertArrayEquals;
 import static org.junit.Assert.assertEquals;
 import static org.junit.Assert.assertNotNull;
-import static org.junit.Assert.assertNull;
 import static org.junit.Assert.assertTrue;
 
 import java.util.function.Consumer;
@@ -105,12 +104,6 @@ public class DriveTest extends BridgeTest {
         assertFields(drives[0], 0, DISK_DRIVE);
         assertFields(drives[449], 449, DISK_DRIVE);
         assertNotNull(drives[200]);
-
-        FakePernix.willReturn("KX_GetDriveStatus", 77);
-        assertEquals(77, code(() -> jni.KX_GetDriveStatus(null, S)));
-        FakePernix.willReturn("KX_GetDriveStatus", 256);
-        assertNull(jni.KX_GetDriveStatus("u", S));
-        assertEachAllocationFailureReported(() -> jni.KX_GetDriveStatus("u", S));
     }
 
     @Test
