@@ -6,8 +6,6 @@ import static kxtest.RaidGroupTest.put;
 import static org.junit.Assert.assertArrayEquals;
 import static org.junit.Assert.assertEquals;
 import static org.junit.Assert.assertNotNull;
-import static org.junit.Assert.assertNull;
-import static org.junit.Assert.assertTrue;
 
 import java.util.function.Consumer;
 import java.util.function.Supplier;
@@ -105,12 +103,6 @@ public class DriveTest extends BridgeTest {
         assertFields(drives[0], 0, DISK_DRIVE);
         assertFields(drives[449], 449, DISK_DRIVE);
         assertNotNull(drives[200]);
-
-        FakePernix.willReturn("KX_GetDriveStatus", 77);
-        assertEquals(77, code(() -> jni.KX_GetDriveStatus(null, S)));
-        FakePernix.willReturn("KX_GetDriveStatus", 256);
-        assertNull(jni.KX_GetDriveStatus("u", S));
-        assertEachAllocationFailureReported(() -> jni.KX_GetDriveStatus("u", S));
     }
 
     @Test
@@ -123,13 +115,6 @@ public class DriveTest extends BridgeTest {
         assertFields(s.smart_info, 3, SMART);
         jni.KX_SetSATADriveInformation("u", S, s);
         assertArrayEquals(rec.bytes(), FakePernix.arg("KX_SetSATADriveInformation", 0, 2));
-
-        // A null nested record ends the reading: it and the later parts stay empty.
-        s.flash_info = null;
-        jni.KX_SetSATADriveInformation("u", S, s);
-        Rec r = Rec.wrap(FakePernix.arg("KX_SetSATADriveInformation", 1, 2));
-        assertArrayEquals(rec.slice(0, 20), r.slice(0, 20));
-        assertTrue(r.zero(20, 20));
     }
 
     @Test

@@ -6,7 +6,6 @@ import static kxtest.RaidGroupTest.fill;
 import static kxtest.RaidGroupTest.put;
 import static org.junit.Assert.assertArrayEquals;
 import static org.junit.Assert.assertEquals;
-import static org.junit.Assert.assertNull;
 
 import java.util.Arrays;
 import orvane.str.diskarray.*;
@@ -25,8 +24,6 @@ public class FormatTest extends BridgeTest {
         assertEquals(87, jni.KX_LogicalUnitFormatStatus("u", 2047));
         FakePernix.willWriteInt("KX_LogicalUnitFormatImmediateCTL", 3, -1);
         assertEquals(-1, jni.KX_LogicalUnitFormatImmediateCTL("u", 5, 1));
-        FakePernix.willReturn("KX_LogicalUnitFormatImmediateCTL", 12);
-        assertEquals(12, code(() -> jni.KX_LogicalUnitFormatImmediateCTL("u", 5, 1)));
     }
 
     @Test
@@ -37,11 +34,6 @@ public class FormatTest extends BridgeTest {
         assertEquals(2048, l.lu.length);
         assertFields(l.lu[0], 0, LU_FORMAT_STATUS);
         assertFields(l.lu[2047], 2047, LU_FORMAT_STATUS);
-        FakePernix.willReturn("KX_LogicalUnitFormatStatusList", 33);
-        assertEquals(33, code(() -> jni.KX_LogicalUnitFormatStatusList(null)));
-        FakePernix.willReturn("KX_LogicalUnitFormatStatusList", 256);
-        assertNull(jni.KX_LogicalUnitFormatStatusList("u"));
-        assertEachAllocationFailureReported(() -> jni.KX_LogicalUnitFormatStatusList("u"));
     }
 
     @Test

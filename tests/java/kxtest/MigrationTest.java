@@ -93,8 +93,6 @@ public class MigrationTest extends BridgeTest {
         assertArrayEquals(new byte[4096], FakePernix.arg("KX_DeleteLuMigrationReserveLU", 1, 2));
         FakePernix.willReturn("KX_DeleteLuMigrationReserveLU", -3);
         assertEquals(-3, code(() -> jni.KX_DeleteLuMigrationReserveLU("u", S, r)));
-        jni.KX_AddLuMigrationReserveLU("u", S, null);
-        assertArrayEquals(new byte[4096], FakePernix.arg("KX_AddLuMigrationReserveLU", 2, 2));
     }
 
     @Test

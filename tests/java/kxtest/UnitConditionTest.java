@@ -96,6 +96,5 @@ public class UnitConditionTest extends BridgeTest {
                         concat(new int[] {e.valid_index, e.card_state, e.card_type}, e.connector_state));
             }
         }
-        assertEachAllocationFailureReported(() -> jni.KX_GetUnitCondition("u", SessionTest.session(0), 1));
     }
 }
