@@ -18,12 +18,13 @@ Lookups::~Lookups() {
   for (int i = 0; i < entries_; ++i) {
     if (!entries_table_[i].made) env_->DeleteLocalRef(entries_table_[i].cls);
   }
+  for (int i = 0; i < field_ids_; ++i) env_->DeleteLocalRef(field_id_table_[i].cls);
 }
 
 Lookups* Lookups::active() noexcept { return current; }
 
 bool Lookups::hold() {
-  if (held_ == kClasses + kEntries) return false;
+  if (held_ == kClasses + kEntries + kFieldIds) return false;
   // The references held here come on top of the walker's own; make sure the
   // frame has room for both.  Called only with no exception pending.
   if (env_->EnsureLocalCapacity(held_ + 1 + kSpareRefs) != JNI_OK) {
@@ -76,6 +77,30 @@ Lookups::Entry* Lookups::made(const RecordDesc& desc) {
     return nullptr;
   }
   return add(desc, cls, true);
+}
+
+jfieldID Lookups::field_id(JNIEnv* env, jobject obj, const Field& f, const char* sig) {
+  if (obj == nullptr || pending(env)) return nullptr;
+  jclass cls = env->GetObjectClass(obj);
+  if (cls == nullptr) return nullptr;
+  Lookups* l = current;
+  if (l != nullptr && l->env_ != env) l = nullptr;
+  if (l != nullptr) {
+    for (int i = 0; i < l->field_ids_; ++i) {
+      FieldId& known = l->field_id_table_[i];
+      if (known.field == &f && env->IsSameObject(known.cls, cls)) {
+        env->DeleteLocalRef(cls);
+        return known.id;
+      }
+    }
+  }
+  jfieldID id = env->GetFieldID(cls, f.name, sig);
+  if (id != nullptr && l != nullptr && l->field_ids_ < kFieldIds && l->hold()) {
+    l->field_id_table_[l->field_ids_++] = FieldId{&f, cls, id};
+  } else {
+    env->DeleteLocalRef(cls);
+  }
+  return id;
 }
 
 Lookups::Entry* Lookups::seen(const RecordDesc& desc, jclass& cls) {

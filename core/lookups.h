@@ -17,11 +17,19 @@
 // Code that runs the walker inside its own PushLocalFrame must open a Lookups
 // inside that frame too: references made there die with the frame.
 //
-// Room is fixed: 48 classes, 48 record entries, 1024 field IDs, all in the
-// object itself (no allocation).  Past that, the walker looks the rest up by
-// name at every use, as the accessors do, so the references held stay
+// Room is fixed: 64 classes, 64 record entries, 512 field IDs and 64 IDs of
+// custom converters' fields, all in the object itself (no allocation; about
+// 9 KB of the native's stack).  Past
+// that, the walker looks the rest up by name at every use, as the accessors
+// do, so the references held stay
 // bounded however many classes a tree holds; EnsureLocalCapacity is asked for
 // each reference kept, with room to spare for the walker's own.
+//
+// The room is sized for the largest tree of the library (the statistics
+// record: 35 classes, 31 entries, 246 IDs) with room to spare: lookup_need()
+// below counts what a tree takes, and the test build asserts at compile time
+// that every record described in a <subsystem>/records.h fits
+// (tests/probe/lookup_room.cmake).
 //
 // Only successes are remembered.  A class, constructor or field that cannot be
 // found is looked up again at its next use, which fails the same way (the JVM's
@@ -49,6 +57,13 @@ class Lookups {
     bool made;         // a writer's entry
   };
 
+  // Room: classes (described classes and the array classes of two-level
+  // tables), record entries, field IDs.
+  static constexpr int kClasses = 64;
+  static constexpr int kEntries = 64;
+  static constexpr int kIds = 512;
+  static constexpr int kFieldIds = 64;  // fields of custom converters
+
   explicit Lookups(JNIEnv* env) noexcept;
   ~Lookups();
   Lookups(const Lookups&) = delete;
@@ -68,15 +83,20 @@ class Lookups {
   // there is no room (the caller then looks everything up by name).
   Entry* made(const RecordDesc& desc);
 
+  // The ID of field f (signature sig) of obj, for converters that handle one
+  // field on their own (custom fields): remembered per field and class of
+  // obj for the call that is running; looked up by name as the accessors do
+  // when none is or there is no room left.  Null for a null obj or when an
+  // exception is pending; null with the JVM's exception pending when the
+  // class has no such field.
+  static jfieldID field_id(JNIEnv* env, jobject obj, const Field& f, const char* sig);
+
   // The reader's entry of desc for objects of class `cls` (a local reference
   // the caller owns; an entry that keeps it takes it over and sets cls to
   // null).  Null when there is no room.
   Entry* seen(const RecordDesc& desc, jclass& cls);
 
  private:
-  static constexpr int kClasses = 48;
-  static constexpr int kEntries = 48;
-  static constexpr int kIds = 1024;
   // Local references the walker may make besides those held here.
   static constexpr jint kSpareRefs = 32;
 
@@ -89,11 +109,96 @@ class Lookups {
   int classes_ = 0;
   int entries_ = 0;
   int ids_ = 0;
+  struct FieldId {
+    const Field* field;
+    jclass cls;
+    jfieldID id;
+  };
+  int field_ids_ = 0;
+  FieldId field_id_table_[kFieldIds];
   const char* paths_[kClasses];
   jclass class_refs_[kClasses];
   Entry entries_table_[kEntries];
   jfieldID id_pool_[kIds];
 };
+
+// What converting one tree (or several within one call) takes of a Lookups:
+// every description reachable from the roots holds one entry, its class and
+// its fields' IDs; a two-level table also holds its row array class, and
+// two-level int tables share "[I".  Descriptions reached only through a
+// custom converter's own code (one that names no `elem`) are not seen.
+// Classes are counted per description, so two descriptions of one class
+// count twice (an upper bound: the table compares paths by address).
+struct LookupNeed {
+  int classes = 0;
+  int entries = 0;
+  int ids = 0;
+  int field_ids = 0;  // fields of custom converters (Lookups::field_id)
+  bool counted = true;  // false: more descriptions than the count can follow
+
+  constexpr bool fits() const {
+    return counted && classes <= Lookups::kClasses && entries <= Lookups::kEntries && ids <= Lookups::kIds &&
+           field_ids <= Lookups::kFieldIds;
+  }
+};
+
+namespace detail {
+struct NeedCount {
+  static constexpr int kMax = 512;
+  const RecordDesc* descs[kMax] = {};
+  const RecordDesc* rows[kMax] = {};
+  int n = 0;
+  int n_rows = 0;
+  bool int_rows = false;
+  LookupNeed need;
+
+  static constexpr bool has(const RecordDesc* const* list, int n, const RecordDesc* d) {
+    for (int i = 0; i < n; ++i) {
+      if (list[i] == d) return true;
+    }
+    return false;
+  }
+
+  constexpr void visit(const RecordDesc& d) {
+    if (has(descs, n, &d)) return;
+    if (n == kMax) {
+      need.counted = false;
+      return;
+    }
+    descs[n++] = &d;
+    need.entries += 1;
+    need.classes += 1;
+    need.ids += static_cast<int>(d.field_count);
+    for (uint32_t i = 0; i < d.field_count; ++i) {
+      const Field& f = d.fields[i];
+      if (f.kind == Kind::Ints2 && !int_rows) {
+        int_rows = true;
+        need.classes += 1;
+      }
+      if (f.kind == Kind::Records2 && !has(rows, n_rows, f.elem) && n_rows < kMax) {
+        rows[n_rows++] = f.elem;
+        need.classes += 1;
+      }
+      if (f.kind == Kind::Custom && f.elem == nullptr) need.field_ids += 1;
+      if (f.elem != nullptr) visit(*f.elem);
+    }
+  }
+};
+}  // namespace detail
+
+// The need of the trees below `roots`, converted within one call in one
+// direction (a reader's entries and a writer's do not share: add the needs).
+template <typename... Descs>
+constexpr LookupNeed lookup_need(const Descs&... roots) {
+  detail::NeedCount count;
+  (count.visit(roots), ...);
+  return count.need;
+}
+
+constexpr LookupNeed operator+(LookupNeed a, LookupNeed b) {
+  return {a.classes + b.classes, a.entries + b.entries, a.ids + b.ids, a.field_ids + b.field_ids,
+          a.counted && b.counted};
+}
 
 // write_record for callers that keep track of pending exceptions: `clean`
 // says on entry whether the caller knows that none is pending, and on return

@@ -20,8 +20,11 @@ void* slot(const void* rec, const Field& f, uint32_t k) {
 
 }  // namespace
 
+// Rates take their field IDs from the call's lookups: a snapshot holds
+// thousands of them.
 int read_rate(JNIEnv* env, jobject obj, const Field& f, void* rec) {
-  double v = jni_get_double_from_short(env, obj, f.name);
+  jfieldID id = Lookups::field_id(env, obj, f, "S");
+  double v = id != nullptr ? static_cast<double>(env->GetShortField(obj, id)) / 100.0 : -1.0;
   if (pending(env)) return kMarshal;
   std::memcpy(at(rec, f.offset), &v, sizeof v);
   return kOk;
@@ -30,7 +33,10 @@ int read_rate(JNIEnv* env, jobject obj, const Field& f, void* rec) {
 int write_rate(JNIEnv* env, jobject obj, const Field& f, const void* rec) {
   double v;
   std::memcpy(&v, at(rec, f.offset), sizeof v);
-  return jni_set_short_from_double(env, obj, f.name, v);
+  jfieldID id = Lookups::field_id(env, obj, f, "S");
+  if (id == nullptr) return kMarshal;
+  env->SetShortField(obj, id, fixed_point_short(v));
+  return pending(env) ? kMarshal : kOk;
 }
 
 int read_byte_rows(JNIEnv* env, jobject obj, const Field& f, void* rec) {

@@ -11,6 +11,7 @@ import java.util.IdentityHashMap;
 import java.util.List;
 import java.util.Locale;
 import java.util.Map;
+import kxtest.FakePernix;
 
 /**
  * Times the natives that build the largest Java trees (and one that reads the
@@ -27,7 +28,7 @@ import java.util.Map;
  * every call, outside the timing.
  *
  * Properties: bench.warmup (native calls before measuring, default 100),
- * bench.rounds (default 5), bench.calls (timed native calls per round, default 40),
+ * bench.rounds (default 5), bench.only (natives to run, separated by commas; default all), bench.calls (timed native calls per round, default 40),
  * bench.floor (floor builds per round, default 400), bench.clock ("cpu", the default: the
  * calling thread's CPU time, which a busy machine disturbs far less than elapsed
  * time; "wall": elapsed time).
@@ -43,6 +44,8 @@ public final class Bench {
 
     /** Keeps results reachable so that no build is optimised away. */
     static volatile Object sink;
+    /** Java heap allocated by the last timed native call. */
+    private static long lastHeap;
 
     private Bench() {}
 
@@ -72,6 +75,9 @@ public final class Bench {
         cases.add(new ReplicationCases.StartMigration());
 
 
+        String only = System.getProperty("bench.only");
+        if (only != null) cases.removeIf(c -> !Arrays.asList(only.split(",")).contains(c.name()));
+
         System.out.printf("Bridge natives against the test double of libpernix.so, one warm JVM (%s %s)%n",
             System.getProperty("java.vm.name"), System.getProperty("java.version"));
         if (CPU && !THREADS.isCurrentThreadCpuTimeSupported()) throw new AssertionError("no thread CPU time here");
@@ -84,15 +90,17 @@ public final class Bench {
             + " seam (poison fill, 32 guard bytes each side, bookkeeping under a lock), and the double copies"
             + " every record it is handed and then writes the scripted output; \"frame+fake\" is that share.");
         System.out.println();
-        System.out.printf(Locale.ROOT, "%-28s %7s %11s %17s %10s %10s %10s %10s %7s %6s %7s%n", "native", "objects",
-            "median/call", "p10-p90", "frame+fake", "Java floor", "JNI floor", "JNI lax", "/Java", "/JNI", "paired");
+        System.out.printf(Locale.ROOT, "%-32s %7s %11s %17s %10s %10s %10s %10s %7s %6s %7s %9s %9s%n", "native",
+            "objects", "median/call", "p10-p90", "frame+fake", "Java floor", "JNI floor", "JNI lax", "/Java", "/JNI",
+            "paired", "records", "Java heap");
 
         for (Case c : cases) {
             Result r = measure(c);
-            System.out.printf(Locale.ROOT, "%-28s %7d %11s %17s %10s %10s %10s %10s %6.0fx %5.2fx %6.2fx%n", c.name(),
+            System.out.printf(Locale.ROOT, "%-32s %7d %11s %17s %10s %10s %10s %10s %6.0fx %6s %7s %9s %9s%n", c.name(),
                 r.objects, ms(r.nativeNs), String.format(Locale.ROOT, "%.3f-%.3f", r.p10Ns / 1e6, r.p90Ns / 1e6),
                 c.builds() ? ms(r.quietNs) : "-", ms(r.floorNs), ms(r.jniNs), ms(r.laxNs),
-                r.nativeNs / r.floorNs, r.nativeNs / r.jniNs, r.pairedRatio);
+                r.nativeNs / r.floorNs, ratio(r.nativeNs / r.jniNs), ratio(r.pairedRatio), mb(r.recordPeak),
+                mb(r.javaBytes));
         }
         System.out.println();
         System.out.println("Times in ms.  objects: Java objects in the tree (records and arrays), the same for the floors.");
@@ -107,6 +115,10 @@ public final class Bench {
         System.out.println("/Java, /JNI: median/call over the Java floor and over the JNI floor.");
         System.out.println("paired: median over the rounds' calls of (native call / the JNI floor build timed right"
             + " after it); steadier than /JNI when the machine's load changes during the run.");
+        System.out.println("JNI columns \"-\": no hand-written JNI floor for that native.");
+        System.out.println("records: most bytes of the native's records live at once during one call (MB).");
+        System.out.println("Java heap: bytes the calling thread allocated during one call, the tree and any"
+            + " garbage (MB; median of the measured calls).");
     }
 
     private static final class Result {
@@ -119,13 +131,18 @@ public final class Bench {
         double jniNs;
         double laxNs;
         double pairedRatio;
+        long recordPeak;
+        long javaBytes;
     }
 
     private static Result measure(Case c) {
         Result r = new Result();
         c.script(false);
         Object got = c.result(c.callNative());
-        for (Object floor : new Object[] {c.buildFloor(), c.buildJni(false), c.buildJni(true)}) {
+        c.sample(got);
+        boolean jniFloor = c.buildJni(false) != null;
+        for (Object floor : jniFloor ? new Object[] {c.buildFloor(), c.buildJni(false), c.buildJni(true)}
+                : new Object[] {c.buildFloor()}) {
             String diff = difference(got, floor, c.name());
             if (diff != null) throw new AssertionError("a floor does not build the native's tree: " + diff);
         }
@@ -134,8 +151,10 @@ public final class Bench {
         for (int i = 0; i < WARMUP; i++) {
             timeNative(c, false);
             if (c.builds()) timeNative(c, true);
-            sink = c.buildJni(false);
-            sink = c.buildJni(true);
+            if (jniFloor) {
+                sink = c.buildJni(false);
+                sink = c.buildJni(true);
+            }
         }
         for (int i = 0; i < 10 * FLOOR; i++) sink = c.buildFloor();
 
@@ -144,13 +163,20 @@ public final class Bench {
         long[] flo = new long[ROUNDS * FLOOR];
         long[] jni = new long[ROUNDS * CALLS];
         long[] lax = new long[ROUNDS * CALLS];
+        long[] heap = new long[ROUNDS * CALLS];
+        long[] peak = new long[ROUNDS * CALLS];
         for (int round = 0; round < ROUNDS; round++) {
             // Interleaved, so that a burst of load on the machine hits all of them alike.
             for (int i = 0; i < CALLS; i++) {
-                nat[round * CALLS + i] = timeNative(c, false);
-                if (c.builds()) quiet[round * CALLS + i] = timeNative(c, true);
-                jni[round * CALLS + i] = timeJni(c, false);
-                lax[round * CALLS + i] = timeJni(c, true);
+                int k = round * CALLS + i;
+                nat[k] = timeNative(c, false);
+                heap[k] = lastHeap;
+                peak[k] = FakePernix.peakBytes();
+                if (c.builds()) quiet[k] = timeNative(c, true);
+                if (jniFloor) {
+                    jni[k] = timeJni(c, false);
+                    lax[k] = timeJni(c, true);
+                }
             }
             for (int i = 0; i < FLOOR; i++) {
                 long t0 = now();
@@ -165,12 +191,18 @@ public final class Bench {
         r.p90Ns = percentile(nat, 90);
         r.quietNs = median(quiet);
         r.floorNs = median(flo);
-        r.jniNs = median(jni);
-        r.laxNs = median(lax);
-        double[] ratios = new double[nat.length];
-        for (int i = 0; i < nat.length; i++) ratios[i] = (double) nat[i] / jni[i];
-        Arrays.sort(ratios);
-        r.pairedRatio = ratios[ratios.length / 2];
+        r.jniNs = jniFloor ? median(jni) : Double.NaN;
+        r.laxNs = jniFloor ? median(lax) : Double.NaN;
+        r.javaBytes = (long) median(heap);
+        r.recordPeak = Arrays.stream(peak).max().getAsLong();
+        if (jniFloor) {
+            double[] ratios = new double[nat.length];
+            for (int i = 0; i < nat.length; i++) ratios[i] = (double) nat[i] / jni[i];
+            Arrays.sort(ratios);
+            r.pairedRatio = ratios[ratios.length / 2];
+        } else {
+            r.pairedRatio = Double.NaN;
+        }
         c.script(false);
         sink = null;
         return r;
@@ -178,9 +210,11 @@ public final class Bench {
 
     private static long timeNative(Case c, boolean quiet) {
         c.script(quiet);
+        long h0 = allocatedBytes();
         long t0 = now();
         Object o = c.callNative();
         long t1 = now();
+        lastHeap = allocatedBytes() - h0;
         if ((o == null) != quiet) throw new AssertionError(c.name() + " returned " + o);
         sink = o;
         return t1 - t0;
@@ -214,7 +248,20 @@ public final class Bench {
     }
 
     private static String ms(double ns) {
-        return String.format(Locale.ROOT, "%.3f", ns / 1e6);
+        return Double.isNaN(ns) ? "-" : String.format(Locale.ROOT, "%.3f", ns / 1e6);
+    }
+
+    private static String ratio(double x) {
+        return Double.isNaN(x) ? "-" : String.format(Locale.ROOT, "%.2fx", x);
+    }
+
+    private static String mb(long bytes) {
+        return String.format(Locale.ROOT, "%.2f", bytes / 1048576.0);
+    }
+
+    /** Java heap the calling thread has allocated so far. */
+    private static long allocatedBytes() {
+        return ((com.sun.management.ThreadMXBean) THREADS).getCurrentThreadAllocatedBytes();
     }
 
     private static List<Field> fields(Class<?> cls) {

@@ -51,6 +51,35 @@ public abstract class Case {
         return null;
     }
 
+    /** A tree the native built (its result), handed over before any floor is built. */
+    protected Object sample;
+    private Planned plan;
+
+    public void sample(Object got) {
+        sample = got;
+    }
+
+    /**
+     * The JNI floor laid out from the Java classes (Planned) over the record bytes; copies > 0: an
+     * array of that many records (the first from bytes, the rest zero).
+     */
+    protected final Object planned(boolean lax, int copies) {
+        if (plan == null) {
+            plan = new Planned(copies > 0 ? java.lang.reflect.Array.get(sample, 0) : sample, reservedTails());
+        }
+        return HandJni.planned(plan.flat, bytes, copies, lax);
+    }
+
+    /** For planned(): bytes that C records hold after their described fields, by simple class name. */
+    protected java.util.Map<String, Integer> reservedTails() {
+        return java.util.Map.of("KXTime", 8);
+    }
+
+    /** planned() over the sample's shape: an array of records or one record. */
+    protected final Object planned(boolean lax) {
+        return planned(lax, sample.getClass().isArray() ? java.lang.reflect.Array.getLength(sample) : 0);
+    }
+
     /** Whether the native builds a Java tree (false: it reads one into a record). */
     public boolean builds() {
         return true;

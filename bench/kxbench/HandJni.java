@@ -19,4 +19,8 @@ final class HandJni {
     static native Object raidGroupInformation(byte[] record, boolean lax);
     static native Object spinDownUp(byte[] record, boolean lax);
     static native byte[] createRaidGroup(Object create, boolean lax);
+    static native Object pairInformation(byte[] record, boolean lax);
+    static native byte[] startLuMigration(Object request, boolean lax);
+    /** The tree of plan (Planned.flat) built from record; copies > 0: an array of that many records. */
+    static native Object planned(Object[] plan, byte[] record, int copies, boolean lax);
 }

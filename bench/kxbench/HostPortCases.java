@@ -242,6 +242,11 @@ final class HostPortCases {
         }
 
         @Override
+        public Object buildJni(boolean lax) {
+            return planned(lax);
+        }
+
+        @Override
         public Object buildFloor() {
             ByteBuffer b = le();
             LuGuardInformation info = new LuGuardInformation();

@@ -36,6 +36,11 @@ final class PerfCases {
         public Object buildFloor() {
             return PerfFloors.StatisticalInformation(le(), 0);
         }
+
+        @Override
+        public Object buildJni(boolean lax) {
+            return planned(lax, 0);
+        }
     }
 
     /** Both controllers' full snapshots; the library fills controller 0 here, controller 1 stays zero. */
@@ -61,6 +66,11 @@ final class PerfCases {
         public Object buildFloor() {
             return new PerformanceAll[] {PerfFloors.PerformanceAll(le(), 0),
                 PerfFloors.PerformanceAll(ByteBuffer.wrap(ZERO).order(ByteOrder.LITTLE_ENDIAN), 0)};
+        }
+
+        @Override
+        public Object buildJni(boolean lax) {
+            return planned(lax, 2);
         }
     }
 
@@ -112,6 +122,12 @@ final class PerfCases {
             info.graphinfo = new PerformanceCollectGraph[] {PerfFloors.PerformanceCollectGraph(b, 0),
                 PerfFloors.PerformanceCollectGraph(b, GRAPH)};
             return info;
+        }
+
+        /** The graphs only: the floor does not read the four snapshots the native reads first. */
+        @Override
+        public Object buildJni(boolean lax) {
+            return planned(lax, 0);
         }
     }
 }

@@ -35,6 +35,11 @@ final class PoolCases {
         }
 
         @Override
+        public Object buildJni(boolean lax) {
+            return planned(lax);
+        }
+
+        @Override
         public Object buildFloor() {
             ByteBuffer b = le();
             IntegrationLUInfo info = new IntegrationLUInfo();
@@ -81,6 +86,11 @@ final class PoolCases {
         @Override
         public Object callNative() {
             return JNI.KX_RaidLuImportEx(UNIT, SESSION, "/var/tmp/raid-lu.cfg");
+        }
+
+        @Override
+        public Object buildJni(boolean lax) {
+            return planned(lax);
         }
 
         @Override

@@ -51,6 +51,11 @@ final class ReplicationCases {
         }
 
         @Override
+        public Object buildJni(boolean lax) {
+            return HandJni.pairInformation(bytes, lax);
+        }
+
+        @Override
         public Object buildFloor() {
             ByteBuffer b = le();
             PairInfo p = new PairInfo();
@@ -129,6 +134,11 @@ final class ReplicationCases {
         }
 
         @Override
+        public Object buildJni(boolean lax) {
+            return planned(lax);
+        }
+
+        @Override
         public Object buildFloor() {
             ByteBuffer b = le();
             LuMigrationInformation info = new LuMigrationInformation();
@@ -188,6 +198,9 @@ final class ReplicationCases {
             byte[] sent = FakePernix.arg("KX_StartLuMigration", 0, 2);
             if (!Arrays.equals(sent, floorBytes()))
                 throw new AssertionError("the floor does not read the request the native sends");
+            if (!Arrays.equals(sent, HandJni.startLuMigration(request, false))
+                || !Arrays.equals(sent, HandJni.startLuMigration(request, true)))
+                throw new AssertionError("the JNI floor does not read the request the native sends");
         }
 
         @Override
@@ -210,6 +223,22 @@ final class ReplicationCases {
                 b.putInt(o, p.pvol_lun).putInt(o + 4, p.svol_lun).putInt(o + 8, p.copying_pace);
             }
             return b.array();
+        }
+
+        @Override
+        public boolean builds() {
+            return false;
+        }
+
+        @Override
+        public Object input() {
+            return request;
+        }
+
+        @Override
+        public Object buildJni(boolean lax) {
+            byte[] record = HandJni.startLuMigration(request, lax);
+            return record == null ? null : Integer.valueOf(record.length);
         }
 
         @Override

@@ -11,10 +11,13 @@
 // the IDs of the first element for all of them).
 #include <jni.h>
 
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
+#include <string>
+#include <vector>
 
 namespace {
 
@@ -24,9 +27,11 @@ int32_t int_at(const uint8_t* p) {
   return v;
 }
 
-// The bytes of a Java byte[] (at most n), zero-filled past its end.
+// The bytes of a Java byte[] (at most n), zero-filled past its end; all zero
+// for a null array.
 struct Bytes {
   Bytes(JNIEnv* env, jbyteArray arr, size_t n) : data(new uint8_t[n]()) {
+    if (arr == nullptr) return;
     jsize len = env->GetArrayLength(arr);
     env->GetByteArrayRegion(arr, 0, len < static_cast<jsize>(n) ? len : static_cast<jsize>(n),
                             reinterpret_cast<jbyte*>(data));
@@ -236,5 +241,352 @@ HAND(jbyteArray, createRaidGroup)(JNIEnv* env, jclass, jobject create, jboolean 
   jbyteArray out = env->NewByteArray(sizeof rec);
   if (out == nullptr) return nullptr;
   env->SetByteArrayRegion(out, 0, sizeof rec, reinterpret_cast<const jbyte*>(rec));
+  return out;
+}
+
+namespace {
+constexpr const char* kPoolDetail[] = {"pool_no", "poolcapa_h", "poolcapa_l"};
+constexpr const char* kPairLu[] = {"lun", "capacity", "pool_usedcapa_h", "pool_usedcapa_l", "pool_usedrate",
+                                   "mirror_count"};
+constexpr const char* kMirrorLu[] = {"mirror_no", "lun", "ctl_no", "pool_no", "pair_status", "usedcapa",
+                                     "changed_rate"};
+constexpr const char* kPairTime[] = {"year", "month", "day", "hour", "minute", "second"};
+
+// A new object of rec made from p and set into obj through field id; false when it fails.
+template <size_t N>
+bool set_made(JNIEnv* env, jobject obj, jfieldID id, const IntRecord<N>& rec, const uint8_t* p, bool lax) {
+  jobject o = rec.make(env, p, lax);
+  if (o == nullptr) return false;
+  env->SetObjectField(obj, id, o);
+  env->DeleteLocalRef(o);
+  return true;
+}
+}  // namespace
+
+// Copy pairs: 2 controllers' pool capacities and 2046 LUs of 15 mirrors each,
+// every mirror with its creation time (about 63,000 objects).
+HAND(jobject, pairInformation)(JNIEnv* env, jclass, jbyteArray bytes, jboolean lax) {
+  Bytes b(env, bytes, 1645024);
+  IntRecord<1> info, ctl;
+  IntRecord<3> pool;
+  IntRecord<6> lu, time;
+  IntRecord<7> mirror;
+  const char* const top[] = {"option"};
+  const char* const ctl_names[] = {"pool_enable_count"};
+  if (!info.load(env, PKG "PairInfo", top) || !ctl.load(env, PKG "PoolCtlCapa", ctl_names) ||
+      !pool.load(env, PKG "PoolDetailCapa", kPoolDetail) || !lu.load(env, PKG "PairLUInfo", kPairLu) ||
+      !mirror.load(env, PKG "MirrorLUInfo", kMirrorLu) || !time.load(env, PKG "PairCreateTime", kPairTime)) {
+    return nullptr;
+  }
+  jfieldID ctl_id = env->GetFieldID(info.cls, "ctl", "[L" PKG "PoolCtlCapa;");
+  jfieldID count_id = env->GetFieldID(info.cls, "pair_count", "I");
+  jfieldID lu_id = env->GetFieldID(info.cls, "lu", "[L" PKG "PairLUInfo;");
+  jfieldID pool_id = env->GetFieldID(ctl.cls, "pool", "[L" PKG "PoolDetailCapa;");
+  jfieldID m_info_id = env->GetFieldID(lu.cls, "m_info", "[L" PKG "MirrorLUInfo;");
+  jfieldID time_id = env->GetFieldID(mirror.cls, "time", "L" PKG "PairCreateTime;");
+  if (!ctl_id || !count_id || !lu_id || !pool_id || !m_info_id || !time_id) return nullptr;
+
+  jobject obj = info.make(env, b.data, lax);
+  if (obj == nullptr) return nullptr;
+  jobjectArray ctls = env->NewObjectArray(2, ctl.cls, nullptr);
+  if (ctls == nullptr) return nullptr;
+  for (jsize c = 0; c < 2; ++c) {
+    const uint8_t* p = b.data + 4 + 16 * static_cast<size_t>(c);
+    jobject co = ctl.make(env, p, lax);
+    if (co == nullptr) return nullptr;
+    jobjectArray pools = pool.list(env, p + 4, 1, 12, lax);
+    if (pools == nullptr) return nullptr;
+    env->SetObjectField(co, pool_id, pools);
+    env->DeleteLocalRef(pools);
+    env->SetObjectArrayElement(ctls, c, co);
+    env->DeleteLocalRef(co);
+  }
+  env->SetObjectField(obj, ctl_id, ctls);
+  env->DeleteLocalRef(ctls);
+  env->SetIntField(obj, count_id, int_at(b.data + 36));
+
+  jobjectArray lus = env->NewObjectArray(2046, lu.cls, nullptr);
+  if (lus == nullptr) return nullptr;
+  for (jsize i = 0; i < 2046; ++i) {
+    const uint8_t* p = b.data + 40 + 804 * static_cast<size_t>(i);
+    jobject lo = lu.make(env, p, lax);
+    if (lo == nullptr) return nullptr;
+    jobjectArray mirrors = env->NewObjectArray(15, mirror.cls, nullptr);
+    if (mirrors == nullptr) return nullptr;
+    for (jsize m = 0; m < 15; ++m) {
+      const uint8_t* q = p + 24 + 52 * static_cast<size_t>(m);
+      jobject mo = mirror.make(env, q, lax);
+      if (mo == nullptr || !set_made(env, mo, time_id, time, q + 28, lax)) return nullptr;
+      env->SetObjectArrayElement(mirrors, m, mo);
+      env->DeleteLocalRef(mo);
+    }
+    env->SetObjectField(lo, m_info_id, mirrors);
+    env->DeleteLocalRef(mirrors);
+    env->SetObjectArrayElement(lus, i, lo);
+    env->DeleteLocalRef(lo);
+  }
+  env->SetObjectField(obj, lu_id, lus);
+  env->DeleteLocalRef(lus);
+  return obj;
+}
+
+// ------------------------------------------------------------ planned floors
+//
+// kxbench.Planned hands over a layout read from the Java classes by
+// reflection; the code below resolves every class, constructor and field ID
+// of it once per call and then builds the tree as the hand-written floors do:
+// fflush before each record (unless lax), local references deleted as it goes.
+
+namespace {
+
+enum PlanKind { kInt, kInts, kInts2, kRecord, kRecords, kRecords2, kRate, kBytes };
+
+struct PlanField {
+  int kind, count, columns, elem;
+  jfieldID id;
+  jclass row_class;  // two-level tables: the class of a row (an array)
+};
+
+struct PlanClass {
+  jclass cls = nullptr;
+  jmethodID ctor = nullptr;
+  int size = 0;
+  std::vector<PlanField> fields;
+};
+
+int16_t rate_short(double value) {
+  double scaled = std::trunc(value * 100.0);
+  int32_t whole = (scaled >= -2147483648.0 && scaled < 2147483648.0) ? static_cast<int32_t>(scaled) : INT32_MIN;
+  return static_cast<int16_t>(static_cast<uint16_t>(static_cast<uint32_t>(whole) & 0xFFFFu));
+}
+
+std::string utf(JNIEnv* env, jobjectArray arr, jsize i) {
+  auto s = static_cast<jstring>(env->GetObjectArrayElement(arr, i));
+  const char* c = env->GetStringUTFChars(s, nullptr);
+  std::string out(c);
+  env->ReleaseStringUTFChars(s, c);
+  env->DeleteLocalRef(s);
+  return out;
+}
+
+class Plan {
+ public:
+  Plan(JNIEnv* env, jobjectArray flat, bool lax) : env_(env), lax_(lax) {
+    auto classes = static_cast<jobjectArray>(env->GetObjectArrayElement(flat, 0));
+    auto code_arr = static_cast<jintArray>(env->GetObjectArrayElement(flat, 1));
+    auto names = static_cast<jobjectArray>(env->GetObjectArrayElement(flat, 2));
+    auto sigs = static_cast<jobjectArray>(env->GetObjectArrayElement(flat, 3));
+    std::vector<jint> code(static_cast<size_t>(env->GetArrayLength(code_arr)));
+    env->GetIntArrayRegion(code_arr, 0, static_cast<jsize>(code.size()), code.data());
+    jsize n = env->GetArrayLength(classes);
+    // Every class and row class is held for the call.
+    if (env->EnsureLocalCapacity(2 * n + static_cast<jint>(code.size()) / 4 + 16) != JNI_OK) return;
+    classes_.resize(static_cast<size_t>(n));
+    size_t at = 0;
+    jsize name = 0;
+    for (jsize i = 0; i < n; ++i) {
+      PlanClass& c = classes_[static_cast<size_t>(i)];
+      c.cls = env->FindClass(utf(env, classes, i).c_str());
+      if (c.cls == nullptr) return;
+      c.ctor = env->GetMethodID(c.cls, "<init>", "()V");
+      if (c.ctor == nullptr) return;
+      c.size = code[at++];
+      int count = code[at++];
+      for (int k = 0; k < count; ++k, ++name) {
+        PlanField f{code[at], code[at + 1], code[at + 2], code[at + 3], nullptr, nullptr};
+        at += 4;
+        std::string sig = utf(env, sigs, name);
+        f.id = env->GetFieldID(c.cls, utf(env, names, name).c_str(), sig.c_str());
+        if (f.id == nullptr) return;
+        if (f.kind == kInts2 || f.kind == kRecords2) {
+          f.row_class = env->FindClass(sig.substr(1).c_str());
+          if (f.row_class == nullptr) return;
+        }
+        c.fields.push_back(f);
+      }
+    }
+    env->DeleteLocalRef(classes);
+    env->DeleteLocalRef(code_arr);
+    env->DeleteLocalRef(names);
+    env->DeleteLocalRef(sigs);
+    ok_ = true;
+  }
+  ~Plan() {
+    for (PlanClass& c : classes_) {
+      for (PlanField& f : c.fields) {
+        if (f.row_class != nullptr) env_->DeleteLocalRef(f.row_class);
+      }
+      if (c.cls != nullptr) env_->DeleteLocalRef(c.cls);
+    }
+  }
+  Plan(const Plan&) = delete;
+  Plan& operator=(const Plan&) = delete;
+
+  bool ok() const { return ok_; }
+  const PlanClass& root() const { return classes_[0]; }
+
+  jobject make(int index, const uint8_t* p) {
+    const PlanClass& c = classes_[static_cast<size_t>(index)];
+    if (!lax_) std::fflush(stdout);
+    jobject o = env_->NewObject(c.cls, c.ctor);
+    if (o == nullptr) return nullptr;
+    for (const PlanField& f : c.fields) {
+      switch (f.kind) {
+        case kInt:
+          env_->SetIntField(o, f.id, int_at(p));
+          p += 4;
+          continue;
+        case kRate: {
+          double v;
+          std::memcpy(&v, p, sizeof v);
+          env_->SetShortField(o, f.id, rate_short(v));
+          p += 8;
+          continue;
+        }
+        case kBytes: {
+          auto arr = static_cast<jbyteArray>(env_->GetObjectField(o, f.id));
+          if (arr == nullptr) return nullptr;
+          env_->SetByteArrayRegion(arr, 0, f.count, reinterpret_cast<const jbyte*>(p));
+          env_->DeleteLocalRef(arr);
+          p += f.count;
+          continue;
+        }
+        default:
+          break;
+      }
+      jobject value = nullptr;
+      switch (f.kind) {
+        case kInts:
+          value = ints(p, f.count);
+          p += 4 * static_cast<size_t>(f.count);
+          break;
+        case kInts2: {
+          jobjectArray rows = env_->NewObjectArray(f.count, f.row_class, nullptr);
+          if (rows == nullptr) return nullptr;
+          for (jsize r = 0; r < f.count; ++r) {
+            jintArray row = ints(p, f.columns);
+            if (row == nullptr) return nullptr;
+            p += 4 * static_cast<size_t>(f.columns);
+            env_->SetObjectArrayElement(rows, r, row);
+            env_->DeleteLocalRef(row);
+          }
+          value = rows;
+          break;
+        }
+        case kRecord:
+          value = make(f.elem, p);
+          p += classes_[static_cast<size_t>(f.elem)].size;
+          break;
+        case kRecords:
+          value = list(f.elem, p, f.count);
+          p += static_cast<size_t>(f.count) * classes_[static_cast<size_t>(f.elem)].size;
+          break;
+        case kRecords2: {
+          jobjectArray rows = env_->NewObjectArray(f.count, f.row_class, nullptr);
+          if (rows == nullptr) return nullptr;
+          for (jsize r = 0; r < f.count; ++r) {
+            jobjectArray row = list(f.elem, p, f.columns);
+            if (row == nullptr) return nullptr;
+            p += static_cast<size_t>(f.columns) * classes_[static_cast<size_t>(f.elem)].size;
+            env_->SetObjectArrayElement(rows, r, row);
+            env_->DeleteLocalRef(row);
+          }
+          value = rows;
+          break;
+        }
+      }
+      if (value == nullptr) return nullptr;
+      env_->SetObjectField(o, f.id, value);
+      env_->DeleteLocalRef(value);
+    }
+    return o;
+  }
+
+  jobjectArray list(int elem, const uint8_t* p, jsize n) {
+    const PlanClass& c = classes_[static_cast<size_t>(elem)];
+    jobjectArray arr = env_->NewObjectArray(n, c.cls, nullptr);
+    if (arr == nullptr) return nullptr;
+    for (jsize i = 0; i < n; ++i) {
+      jobject o = make(elem, p + static_cast<size_t>(i) * c.size);
+      if (o == nullptr) return nullptr;
+      env_->SetObjectArrayElement(arr, i, o);
+      env_->DeleteLocalRef(o);
+    }
+    return arr;
+  }
+
+ private:
+  jintArray ints(const uint8_t* p, jsize n) {
+    jintArray arr = env_->NewIntArray(n);
+    if (arr != nullptr) env_->SetIntArrayRegion(arr, 0, n, reinterpret_cast<const jint*>(p));
+    return arr;
+  }
+
+  JNIEnv* env_;
+  bool lax_;
+  bool ok_ = false;
+  std::vector<PlanClass> classes_;
+};
+
+}  // namespace
+
+// The tree of plan 0 built from `bytes`; copies > 0: an array of that many,
+// from consecutive records (zero past the end of bytes).
+HAND(jobject, planned)(JNIEnv* env, jclass, jobjectArray plan, jbyteArray bytes, jint copies, jboolean lax) {
+  Plan p(env, plan, lax);
+  if (!p.ok()) return nullptr;
+  size_t need = static_cast<size_t>(p.root().size) * static_cast<size_t>(copies > 0 ? copies : 1);
+  size_t have = static_cast<size_t>(env->GetArrayLength(bytes));
+  Bytes b(env, bytes, need > have ? need : have);
+  return copies > 0 ? p.list(0, b.data, copies) : p.make(0, b.data);
+}
+
+// The 24572-byte request of up to 2047 migration pairs, read from its Java
+// object; each element's fields looked up by the element's own class when it
+// is not the class seen before (lax: the first element's IDs for all).
+HAND(jbyteArray, startLuMigration)(JNIEnv* env, jclass, jobject request, jboolean lax) {
+  constexpr size_t kSize = 24572;
+  constexpr const char* kPair[] = {"pvol_lun", "svol_lun", "copying_pace"};
+  Bytes rec(env, nullptr, kSize);
+  jclass cls = env->GetObjectClass(request);
+  jfieldID count_id = env->GetFieldID(cls, "request_pair_count", "I");
+  jfieldID owner_id = env->GetFieldID(cls, "owner_id", "I");
+  jfieldID lu_id = env->GetFieldID(cls, "lu", "[L" PKG "LuMigrationRequestPairInfo;");
+  env->DeleteLocalRef(cls);
+  if (count_id == nullptr || owner_id == nullptr || lu_id == nullptr) return nullptr;
+  int32_t top[2] = {env->GetIntField(request, count_id), env->GetIntField(request, owner_id)};
+  std::memcpy(rec.data, top, sizeof top);
+  auto pairs = static_cast<jobjectArray>(env->GetObjectField(request, lu_id));
+  if (pairs != nullptr) {
+    jsize n = env->GetArrayLength(pairs);
+    if (n > 2047) n = 2047;
+    jclass known = nullptr;
+    jfieldID id[3] = {};
+    for (jsize i = 0; i < n; ++i) {
+      jobject p = env->GetObjectArrayElement(pairs, i);
+      if (p == nullptr) continue;
+      jclass pc = (lax && known != nullptr) ? nullptr : env->GetObjectClass(p);
+      if (pc != nullptr && (known == nullptr || !env->IsSameObject(pc, known))) {
+        for (size_t k = 0; k < 3; ++k) {
+          id[k] = env->GetFieldID(pc, kPair[k], "I");
+          if (id[k] == nullptr) return nullptr;
+        }
+        if (known != nullptr) env->DeleteLocalRef(known);
+        known = pc;
+      } else if (pc != nullptr) {
+        env->DeleteLocalRef(pc);
+      }
+      for (size_t k = 0; k < 3; ++k) {
+        int32_t v = env->GetIntField(p, id[k]);
+        std::memcpy(rec.data + 8 + 12 * static_cast<size_t>(i) + 4 * k, &v, 4);
+      }
+      env->DeleteLocalRef(p);
+    }
+    if (known != nullptr) env->DeleteLocalRef(known);
+    env->DeleteLocalRef(pairs);
+  }
+  jbyteArray out = env->NewByteArray(kSize);
+  if (out == nullptr) return nullptr;
+  env->SetByteArrayRegion(out, 0, kSize, reinterpret_cast<const jbyte*>(rec.data));
   return out;
 }

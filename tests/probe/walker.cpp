@@ -61,9 +61,9 @@ namespace {
 // room and are looked up by name at each use, as the helpers do.
 class Stuffing {
  public:
-  Stuffing(JNIEnv* env, kx::Lookups& lookups) : descs_(64, kRow) {
+  Stuffing(JNIEnv* env, kx::Lookups& lookups) : descs_(kx::Lookups::kEntries, kRow) {
     for (auto& d : descs_) lookups.made(d);
-    for (size_t i = 0; i < 64; ++i) {
+    for (int i = 0; i < kx::Lookups::kClasses; ++i) {
       std::strcpy(paths_[i], "java/lang/Object");
       bool held = false;
       jclass cls = lookups.find(paths_[i], held);
@@ -73,7 +73,7 @@ class Stuffing {
 
  private:
   std::vector<kx::RecordDesc> descs_;
-  char paths_[64][20];
+  char paths_[kx::Lookups::kClasses][20];
 };
 
 // Runs fn with the call's lookups, stuffed first when asked.
