@@ -72,11 +72,11 @@ public class FrameTableTest extends BridgeTest {
      * file system with 64-bit inode numbers), or names the folder that holds them.
      */
     static List<Path> tableFiles() throws IOException {
-        String spec = System.getProperty("kx.frames", "tests/frames");
-        Path dir = Paths.get(spec);
+        String given = System.getProperty("kx.frames", "tests/frames");
+        Path dir = Paths.get(given);
         if (!Files.isDirectory(dir)) {
             List<Path> named = new ArrayList<>();
-            for (String f : spec.split(java.io.File.pathSeparator)) if (!f.isEmpty()) named.add(Paths.get(f));
+            for (String f : given.split(java.io.File.pathSeparator)) if (!f.isEmpty()) named.add(Paths.get(f));
             return named;
         }
         try (Stream<Path> s = Files.list(dir)) {
