@@ -1,6 +1,6 @@
 package orvane.str.diskarray;
 
-/** Lacks serial. */
+/** Lacks serial, its last unchecked field. */
 public class DiscoverUnit {
     public int connect_type;
     public String ip_dev;

@@ -1,6 +1,6 @@
 package orvane.str.diskarray;
 
-/** Lacks serial. */
+/** Lacks serial, its last unchecked field. */
 public class KXUnitParam {
     public String unit_name;
     public String group_name;

@@ -1,0 +1,17 @@
+package orvane.str.diskarray;
+
+/** Cannot be initialised: the JVM cannot find it for the bridge. */
+public class FarsyncLuInfo {
+    static {
+        if (!Boolean.getBoolean("kx.never")) throw new IllegalStateException("unusable class");
+    }
+
+    public int support_index;
+    public int valid_index;
+    public int lun;
+    public int pair_status;
+    public int pair_attr;
+    public int changed_rate;
+    public String remote_serial;
+    public int remote_lu;
+}

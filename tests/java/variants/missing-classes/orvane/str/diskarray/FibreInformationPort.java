@@ -1,0 +1,20 @@
+package orvane.str.diskarray;
+
+/** Cannot be initialised: the JVM cannot find it for the bridge. */
+public class FibreInformationPort {
+    static {
+        if (!Boolean.getBoolean("kx.never")) throw new IllegalStateException("unusable class");
+    }
+
+    public String node_name;
+    public String port_name;
+    public String n_port_id;
+    public String get_address;
+    public int frame_size;
+    public int if_board;
+    public int support_speed;
+    public int set_speed;
+    public int refer_speed;
+    public int connect_valid;
+    public FibreInformationConnector[] connect;
+}

@@ -1,0 +1,11 @@
+package orvane.str.diskarray;
+
+/** Cannot be initialised: the JVM cannot find it for the bridge. */
+public class HGInfo {
+    static {
+        if (!Boolean.getBoolean("kx.never")) throw new IllegalStateException("unusable class");
+    }
+
+    public int valid;
+    public String hgname;
+}

@@ -1,0 +1,10 @@
+package orvane.str.diskarray;
+
+/** Cannot be initialised: the JVM cannot find it for the bridge. */
+public class KXiSNSCTLInfo {
+    static {
+        if (!Boolean.getBoolean("kx.never")) throw new IllegalStateException("unusable class");
+    }
+
+    public KXiSNSPortInfo[] port;
+}

@@ -1,0 +1,11 @@
+package orvane.str.diskarray;
+
+/** Cannot be initialised: the JVM cannot find it for the bridge. */
+public class SpecialmodeInfo {
+    static {
+        if (!Boolean.getBoolean("kx.never")) throw new IllegalStateException("unusable class");
+    }
+
+    public int specialmode_id;
+    public HGOptionInfo hgoptinfo;
+}

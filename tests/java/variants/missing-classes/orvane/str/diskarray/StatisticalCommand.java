@@ -1,0 +1,11 @@
+package orvane.str.diskarray;
+
+/** Cannot be initialised: the JVM cannot find it for the bridge. */
+public class StatisticalCommand {
+    static {
+        if (!Boolean.getBoolean("kx.never")) throw new IllegalStateException("unusable class");
+    }
+
+    public StatisticalCommand_Info[] lu;
+    public KXTime mtime;
+}

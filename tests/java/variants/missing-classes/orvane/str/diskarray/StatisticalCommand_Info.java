@@ -1,0 +1,13 @@
+package orvane.str.diskarray;
+
+/** Cannot be initialised: the JVM cannot find it for the bridge. */
+public class StatisticalCommand_Info {
+    static {
+        if (!Boolean.getBoolean("kx.never")) throw new IllegalStateException("unusable class");
+    }
+
+    public int read_count;
+    public int write_count;
+    public int read_cache;
+    public int write_cache;
+}

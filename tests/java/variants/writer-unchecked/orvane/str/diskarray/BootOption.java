@@ -1,0 +1,15 @@
+package orvane.str.diskarray;
+
+/** Lacks ram_micro, its last unchecked field. */
+public class BootOption {
+    public int support_index;
+    public int valid_index;
+    public int startup_attr;
+    public int data_share;
+    public int delay_time;
+    public int drvdetachmode;
+    public String vendor;
+    public String product;
+    public String rom_micro;
+    public String ram_micro_absent;
+}
