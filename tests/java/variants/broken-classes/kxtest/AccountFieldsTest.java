@@ -19,6 +19,12 @@ public class AccountFieldsTest extends BridgeTest {
     @Test
     public void importedElementsThatCannotBeBuiltStayNull() {
         FakePernix.willWriteInt("KX_FibreInfoPermissionImport", 4, 3);
-        assertArrayEquals(new FibreInformationPermission[3], jni.KX_FibreInfoPermissionImport("u", "/p", 0, 0));
+        FibreInformationPermission.throwing = false;
+        FibreInformationPermission.failAt = FibreInformationPermission.made + 1;  // no bitmap from now on
+        try {
+            assertArrayEquals(new FibreInformationPermission[3], jni.KX_FibreInfoPermissionImport("u", "/p", 0, 0));
+        } finally {
+            FibreInformationPermission.failAt = Integer.MAX_VALUE;
+        }
     }
 }
