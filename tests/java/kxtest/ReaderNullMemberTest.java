@@ -6,7 +6,11 @@ import java.lang.reflect.Array;
 import java.lang.reflect.Field;
 import java.lang.reflect.Modifier;
 import java.util.ArrayList;
+import java.util.Arrays;
+import java.util.HashSet;
 import java.util.List;
+import java.util.Set;
+import java.util.zip.CRC32;
 import org.junit.Test;
 
 /**
@@ -147,7 +151,7 @@ public class ReaderNullMemberTest extends BridgeTest {
     }
 
     /** Arguments (by index) of the last call whose records hold pointers to buffers of the call. */
-    final java.util.Set<Integer> linking = new java.util.HashSet<>();
+    final Set<Integer> linking = new HashSet<>();
 
     /** The bytes of every argument of the only call of fn, then of the buffers pointers inside them lead to. */
     List<byte[]> handedOver(String fn) {
@@ -179,7 +183,7 @@ public class ReaderNullMemberTest extends BridgeTest {
         if (crc(a) == crc(b)) return -1;  // native, where a byte loop is slow in the emulated legs
         int from = 0;
         while (true) {
-            int d = java.util.Arrays.mismatch(a, from, a.length, b, from, b.length);
+            int d = Arrays.mismatch(a, from, a.length, b, from, b.length);
             if (d < 0) return -1;
             int at = from + d;
             int w = at - at % POINTER;
@@ -197,7 +201,7 @@ public class ReaderNullMemberTest extends BridgeTest {
     }
 
     static long crc(byte[] a) {
-        java.util.zip.CRC32 c = new java.util.zip.CRC32();
+        CRC32 c = new CRC32();
         c.update(a, 0, a.length);
         return c.getValue();
     }
@@ -249,7 +253,7 @@ public class ReaderNullMemberTest extends BridgeTest {
     }
 
     /** How sent differs from expected, null when it does not. */
-    String mismatch(List<byte[]> expected, List<byte[]> sent, java.util.Set<Integer> pointers) {
+    String mismatch(List<byte[]> expected, List<byte[]> sent, Set<Integer> pointers) {
         if (sent == null && expected == null) return null;
         if (sent == null || expected == null || sent.size() != expected.size()) return "library not called alike";
         for (int i = 0; i < sent.size(); i++) {
@@ -263,7 +267,7 @@ public class ReaderNullMemberTest extends BridgeTest {
     public void aReaderStopsAtANullMemberAnywhereInsideItsRecord() throws Exception {
         List<String> problems = new ArrayList<>();
         int checked = 0;
-        java.util.Set<Field> done = new java.util.HashSet<>();
+        Set<Field> done = new HashSet<>();
         for (FrameTableTest.Row r : FrameTableTest.table()) {
             Class<?>[] types = r.method.getParameterTypes();
             Object[] args = FrameTableTest.plainArgs(r.method);
@@ -294,7 +298,7 @@ public class ReaderNullMemberTest extends BridgeTest {
 
                     f.set(holder, null);
                     List<byte[]> sent = call(r, args, p, full, problems, what);
-                    java.util.Set<Integer> pointers = new java.util.HashSet<>(linking);
+                    Set<Integer> pointers = new HashSet<>(linking);
                     List<byte[]> expected = cleared(r, args, p, full, holder, rest, kept, false, problems, what);
                     if (jvmError) continue;
                     checked++;
