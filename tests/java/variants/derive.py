@@ -1,9 +1,11 @@
 #!/usr/bin/env python3
-"""Writes the fixture classes and expect.tsv of the variant sets that follow
-from the record descriptions: writer-last-checked, writer-unchecked and
-missing-classes (see tests/frames/README).
+"""Derives the variant sets that follow from the record descriptions:
+writer-last-checked, writer-unchecked and missing-classes (see
+tests/frames/README).
 
-    python3 tests/java/variants/derive.py
+    python3 tests/java/variants/derive.py               rewrites their expect.tsv
+    python3 tests/java/variants/derive.py <set> <dir>   writes the set's broken
+                                                        classes into <dir> (the build)
 
 Reads every <subsystem>/records.h (KX_RECORD: field order, which fields a
 writer checks, nested records and arrays), the natives' result types in
@@ -219,31 +221,46 @@ def derive(name, nat):
     return broken, lines + EXTRA.get(name, [])
 
 
-def main():
+def write_classes(name, broken, out):
+    folder = os.path.join(out, 'orvane', 'str', 'diskarray')
+    os.makedirs(folder, exist_ok=True)
+    written = []
+    for cls, how in sorted(broken.items()):
+        text = open(os.path.join(CLASSES, cls + '.java')).read()
+        if how == 'unusable':
+            text = unusable(text, cls)
+        else:
+            what = ('the last field whose failure drops the object' if name == 'writer-last-checked'
+                    else 'its last unchecked field')
+            text = lacking(text, cls, how, what)
+        written.append(os.path.join(folder, cls + '.java'))
+        open(written[-1], 'w').write(text)
+    with open(os.path.join(out, 'sources.list'), 'w') as out_list:
+        out_list.write(''.join(path + '\n' for path in written))
+
+
+def write_expect(name, header, lines):
+    with open(os.path.join(VARIANTS, name, 'expect.tsv'), 'w') as out:
+        out.write('# Native with plain arguments, and what it answers when %s (see VariantTable).\n'
+                  '# Written by derive.py.\n' % header)
+        for n, o, note in lines:
+            out.write(('%-40s %s' % (n, o)).rstrip() + ('    # ' + note if note else '') + '\n')
+
+
+def main(args):
     nat = natives()
+    if len(args) == 2:
+        # the build: the set's classes into a folder of the build tree
+        broken, _ = derive(args[0], nat)
+        write_classes(args[0], broken, args[1])
+        return
+    if args:
+        sys.exit('usage: derive.py [<set> <output folder>]')
     for name, header in SETS.items():
         broken, lines = derive(name, nat)
-        folder = os.path.join(VARIANTS, name, 'orvane', 'str', 'diskarray')
-        os.makedirs(folder, exist_ok=True)
-        for old in os.listdir(folder):
-            if old[:-len('.java')] not in KEPT.get(name, set()):
-                os.remove(os.path.join(folder, old))
-        for cls, how in sorted(broken.items()):
-            text = open(os.path.join(CLASSES, cls + '.java')).read()
-            if how == 'unusable':
-                text = unusable(text, cls)
-            else:
-                what = ('the last field whose failure drops the object' if name == 'writer-last-checked'
-                        else 'its last unchecked field')
-                text = lacking(text, cls, how, what)
-            open(os.path.join(folder, cls + '.java'), 'w').write(text)
-        with open(os.path.join(VARIANTS, name, 'expect.tsv'), 'w') as out:
-            out.write('# Native with plain arguments, and what it answers when %s (see VariantTable).\n'
-                      '# Written by derive.py.\n' % header)
-            for n, o, note in lines:
-                out.write(('%-40s %s' % (n, o)).rstrip() + ('    # ' + note if note else '') + '\n')
+        write_expect(name, header, lines)
         print('%s: %d classes, %d natives' % (name, len(broken), len(lines)))
 
 
 if __name__ == '__main__':
-    main()
+    main(sys.argv[1:])

@@ -1,9 +1,0 @@
-package orvane.str.diskarray;
-
-/** Cannot be initialised: the JVM cannot find it for the bridge. */
-public class PoolDetailInfo {
-    static {
-        if (!Boolean.getBoolean("kx.never")) throw new IllegalStateException("unusable class");
-    }
-
-}

@@ -1,8 +1,0 @@
-package orvane.str.diskarray;
-
-/** Lacks waiting_number, the last field whose failure drops the object. */
-public class CorrectionLuStatus {
-    public int status;
-    public int percent;
-    public int waiting_number_absent;
-}

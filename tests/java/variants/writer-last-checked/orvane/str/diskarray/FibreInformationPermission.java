@@ -1,9 +1,0 @@
-package orvane.str.diskarray;
-
-/** Lacks lun_security_bitmap, the last field whose failure drops the object. */
-public class FibreInformationPermission {
-    public String node_name;
-    public String port_name;
-    public String n_port_id;
-    public byte[] lun_security_bitmap_absent = new byte[256];
-}

@@ -1,8 +1,0 @@
-package orvane.str.diskarray;
-
-/** Lacks hg, the last field whose failure drops the object. */
-public class LuMappingPortInfo {
-    public int security;
-    public int hg_tg_max_count;
-    public LuMappingHGInfo[] hg_absent;
-}

@@ -1,8 +1,0 @@
-package orvane.str.diskarray;
-
-/** Lacks ctrl_name_mode, the last field whose failure drops the object. */
-public class NowWZCtrlId {
-    public String id_front;
-    public String id_rear;
-    public int ctrl_name_mode_absent;
-}

@@ -1,6 +1,0 @@
-package orvane.str.diskarray;
-
-/** Lacks base, the last field whose failure drops the object. */
-public class PerformanceCollectGraphRG {
-    public PerformanceCollectGraphBase base_absent;
-}

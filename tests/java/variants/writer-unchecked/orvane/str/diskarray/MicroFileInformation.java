@@ -1,8 +1,0 @@
-package orvane.str.diskarray;
-
-/** Lacks micro, its last unchecked field. */
-public class MicroFileInformation {
-    public String micro_absent;
-    public int valid;
-    public int booting_wait;
-}
