@@ -101,6 +101,7 @@ final class PerfTree {
             keys = new String[fields.length];
             time = c.getSimpleName().equals("KXTime");
             for (int i = 0; i < fields.length; i++) {
+                fields[i].setAccessible(true);  // no access check at each of the tree's leaves
                 Class<?> t = fields[i].getType();
                 keys[i] = c.getSimpleName() + "." + fields[i].getName();
                 if (t == int.class) {
