@@ -339,7 +339,7 @@ HAND(jobject, pairInformation)(JNIEnv* env, jclass, jbyteArray bytes, jboolean l
 
 namespace {
 
-enum PlanKind { kInt, kInts, kInts2, kRecord, kRecords, kRecords2, kRate, kBytes };
+enum PlanKind { kInt, kInts, kInts2, kRecord, kRecords, kRecords2, kRate, kBytes, kText, kSByte, kUByte, kSkip };
 
 struct PlanField {
   int kind, count, columns, elem;
@@ -353,6 +353,8 @@ struct PlanClass {
   int size = 0;
   std::vector<PlanField> fields;
 };
+
+constexpr int kMaxText = 511;  // widest text field a plan may hold
 
 int16_t rate_short(double value) {
   double scaled = std::trunc(value * 100.0);
@@ -396,6 +398,11 @@ class Plan {
         PlanField f{code[at], code[at + 1], code[at + 2], code[at + 3], nullptr, nullptr};
         at += 4;
         std::string sig = utf(env, sigs, name);
+        if (f.kind == kText && f.count >= kMaxText) return;
+        if (f.kind == kSkip) {  // reserved bytes: no field
+          c.fields.push_back(f);
+          continue;
+        }
         f.id = env->GetFieldID(c.cls, utf(env, names, name).c_str(), sig.c_str());
         if (f.id == nullptr) return;
         if (f.kind == kInts2 || f.kind == kRecords2) {
@@ -441,6 +448,30 @@ class Plan {
           std::memcpy(&v, p, sizeof v);
           env_->SetShortField(o, f.id, rate_short(v));
           p += 8;
+          continue;
+        }
+        case kSByte:
+        case kUByte:
+          env_->SetIntField(o, f.id, f.kind == kSByte ? static_cast<int8_t>(*p) : *p);
+          p += 1;
+          continue;
+        case kSkip:
+          p += f.count;
+          continue;
+        case kText: {
+          // NUL-terminated within the field, or all of its bytes.
+          const char* text = reinterpret_cast<const char*>(p);
+          char copy[kMaxText + 1];
+          if (std::memchr(p, 0, static_cast<size_t>(f.count)) == nullptr) {
+            std::memcpy(copy, p, static_cast<size_t>(f.count));
+            copy[f.count] = '\0';
+            text = copy;
+          }
+          jstring str = env_->NewStringUTF(text);
+          if (str == nullptr) return nullptr;
+          env_->SetObjectField(o, f.id, str);
+          env_->DeleteLocalRef(str);
+          p += f.count;
           continue;
         }
         case kBytes: {
