@@ -18,9 +18,10 @@ namespace {
 constexpr size_t kGuard = 32;
 constexpr uint8_t kGuardByte = 0x5A;
 // Fresh blocks hold this byte throughout: only the bridge's own clearing
-// shows zeros.  Released blocks are overwritten with kFreedByte.
+// shows zeros.  Released blocks are overwritten with it too (what the bridge
+// might still read there is garbage), so a block taken again from the spare
+// ones already holds it.
 constexpr uint8_t kPoisonByte = 0xA5;
-constexpr uint8_t kFreedByte = 0xDD;
 // A run this long of the poison byte in a block handed to the library means
 // the block was not cleared.
 constexpr size_t kPoisonRun = 8;
@@ -48,7 +49,7 @@ struct State {
   std::map<size_t, long> unwiped;  // released blocks that still held non-zero bytes, by size
   // Memory kept for reuse: records and their recorded copies run to
   // megabytes, and memory fresh from the system at every call would cost more
-  // page faults than the call itself.  Released blocks (filled with kFreedByte)
+  // page faults than the call itself.  Released blocks (filled with kPoisonByte)
   // by their raw size, and the byte buffers of the calls forgotten by reset().
   std::multimap<size_t, uint8_t*> spare_blocks;
   size_t spare_block_bytes = 0;
@@ -196,9 +197,9 @@ extern "C" __attribute__((visibility("default"))) void* pernix_seam_alloc(size_t
   } else {
     raw = static_cast<uint8_t*>(std::malloc(bytes + 2 * kGuard));
     if (raw == nullptr) return nullptr;
+    std::memset(raw + kGuard, kPoisonByte, bytes);
   }
   std::memset(raw, kGuardByte, kGuard);
-  std::memset(raw + kGuard, kPoisonByte, bytes);
   std::memset(raw + kGuard + bytes, kGuardByte, kGuard);
   s.live[raw + kGuard] = Block{bytes};
   s.live_bytes += bytes;
@@ -241,7 +242,7 @@ extern "C" __attribute__((visibility("default"))) void pernix_seam_free(void* bl
     if (b.arg < args.size()) args[b.arg].release = wipe != 0 ? Arg::ReleasedWiped : Arg::Released;
   }
   s.live.erase(it);
-  std::memset(raw, kFreedByte, b.bytes + 2 * kGuard);
+  std::memset(raw, kPoisonByte, b.bytes + 2 * kGuard);
   if (s.spare_block_bytes + b.bytes + 2 * kGuard <= kSpareMax) {
     s.spare_blocks.emplace(b.bytes + 2 * kGuard, raw);
     s.spare_block_bytes += b.bytes + 2 * kGuard;
