@@ -57,7 +57,7 @@ LD_LIBRARY_PATH="$(dirname "$fake")${LD_LIBRARY_PATH:+:$LD_LIBRARY_PATH}" \
   -Dkx.frames="$frames" -Dkx.tests="$here" -Dkx.probe="$(dirname "$fake")/libkxprobe.so" \
   -XX:ErrorFile="${TMPDIR:-/tmp}/kx_hs_err_%p.log" -cp "$cp" kxtest.Runner "$@" 2>&1 | tee "$log"
 rc=${PIPESTATUS[0]}
-if grep -qE 'WARNING in native method|FATAL ERROR|WARNING: JNI|Warning: JNI' "$log"; then
+if grep -qE 'WARNING in native method|FATAL ERROR|WARNING: JNI|^Warning: ' "$log"; then
   echo "run_jvm: the JVM reported JNI misuse (see above)"
   rc=1
 fi

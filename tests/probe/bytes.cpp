@@ -7,14 +7,18 @@
 
 namespace {
 
+// The length is taken before the pin: nothing but the release may be called
+// while a critical region is open.
 struct Pinned {
   JNIEnv* env;
   jbyteArray array;
   jsize n;
-  const unsigned char* p;
-  Pinned(JNIEnv* e, jbyteArray a)
-      : env(e), array(a), n(e->GetArrayLength(a)),
-        p(static_cast<const unsigned char*>(e->GetPrimitiveArrayCritical(a, nullptr))) {}
+  const unsigned char* p = nullptr;
+  Pinned(JNIEnv* e, jbyteArray a) : env(e), array(a), n(e->GetArrayLength(a)) {}
+  bool pin() {
+    p = static_cast<const unsigned char*>(env->GetPrimitiveArrayCritical(array, nullptr));
+    return p != nullptr;
+  }
   ~Pinned() {
     if (p) env->ReleasePrimitiveArrayCritical(array, const_cast<unsigned char*>(p), JNI_ABORT);
   }
@@ -26,7 +30,7 @@ struct Pinned {
 extern "C" JNIEXPORT jint JNICALL Java_kxtest_Bytes_find(JNIEnv* env, jclass, jbyteArray a, jint from,
                                                          jint value, jboolean other) {
   Pinned b(env, a);
-  if (!b.p) return -1;
+  if (!b.pin()) return -1;
   auto v = static_cast<unsigned char>(value);
   if (!other) {
     if (from >= b.n) return -1;
@@ -42,7 +46,7 @@ extern "C" JNIEXPORT jint JNICALL Java_kxtest_Bytes_find(JNIEnv* env, jclass, jb
 extern "C" JNIEXPORT jint JNICALL Java_kxtest_Bytes_mismatch(JNIEnv* env, jclass, jbyteArray a, jbyteArray b) {
   Pinned x(env, a);
   Pinned y(env, b);
-  if (!x.p || !y.p) return -1;
+  if (!x.pin() || !y.pin()) return -1;
   jsize n = std::min(x.n, y.n);
   auto d = std::mismatch(x.p, x.p + n, y.p);
   if (d.first != x.p + n) return static_cast<jint>(d.first - x.p);
