@@ -127,7 +127,7 @@ public class PoolsCacheTest extends BridgeTest {
     }
 
     @Test
-    public void turboLuSetterRefusesARecordItCannotReadWhole() {
+    public void turboLuSetterRefusesARecordItCannotReadWhole() throws Throwable {
         TurboLu noCtl = turbo();
         noCtl.ctl = null;
         assertEquals(2817, code(() -> jni.KX_SetTurboLU("u", S, noCtl)));
@@ -142,5 +142,6 @@ public class PoolsCacheTest extends BridgeTest {
         assertArrayEquals(put(Rec.of(44).i32(0, 5), 24, 2, TURBO_INFO).bytes(), FakePernix.arg("KX_SetTurboLU", 0, 2));
         FakePernix.willReturn("KX_SetTurboLU", -4);
         assertEquals(-4, code(() -> jni.KX_SetTurboLU("u", S, turbo(1, 2))));
+        assertEachAllocationFailureReported(() -> jni.KX_SetTurboLU("u", S, turbo(1, 2)));
     }
 }
