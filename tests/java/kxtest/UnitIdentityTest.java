@@ -38,7 +38,6 @@ public class UnitIdentityTest extends BridgeTest {
                 .str(0, "EQ12X")  // fills the field to its last byte
                 .i32(8, -1).str(12, "FRONT-AAA").str(21, "R1").i32(24, 65536).str(28, "F").bytes());
         UnitIdentifier id = jni.KX_GetUnitIdentifier("unit-7");
-        assertCString("unit-7", 65, FakePernix.arg("KX_GetUnitIdentifier", 0, 0));
         assertEquals("EQ12X", id.equipment_id);
         assertEquals(2, id.ctl.length);
         assertEquals("-1/FRONT-AAA/R1", id.ctl[0].ctrl_name_mode + "/" + id.ctl[0].id_front + "/" + id.ctl[0].id_rear);
