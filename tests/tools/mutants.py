@@ -115,6 +115,8 @@ def main(selected):
         print(json.dumps(out), flush=True)
         with open(os.path.join(ROOT, "build", "host", "mutants.jsonl"), "a") as f:
             f.write(json.dumps(out) + "\n")
+    # Leave the build as the sources are.
+    sh("cmake --build build/host -j2 --target bridge kx_test_classes", os.path.join(logs, "restore.build.log"))
 
 
 if __name__ == "__main__":
