@@ -12,7 +12,7 @@ apt_install() {
 }
 
 packages=(cmake make g++ g++-multilib openjdk-17-jdk-headless junit4 file binutils
-          dpkg-dev lintian
+          dpkg-dev lintian python3
           libc6:i386 zlib1g:i386 libgcc-s1:i386 libstdc++6:i386)
 
 installed() {

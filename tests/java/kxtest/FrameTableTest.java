@@ -338,12 +338,10 @@ public class FrameTableTest extends BridgeTest {
         if (sent.size() != plain.size()) return;
         int changed = 0;
         for (int k = 0; k < sent.size(); k++) {
-            if (Arrays.equals(sent.get(k), plain.get(k))) continue;
+            if (Bytes.same(sent.get(k), plain.get(k))) continue;
             changed++;
             byte[] b = sent.get(k);
-            boolean clear = true;
-            for (int j = 0; b != null && j < b.length; j++) clear &= b[j] == 0;
-            check(r, what, clear, "argument " + k + " reached the library holding data");
+            check(r, what, Bytes.zero(b), "argument " + k + " reached the library holding data");
         }
         Class<?> type = Arrays.stream(r.method.getParameterTypes()).filter(c -> !c.isPrimitive())
             .skip(nullRef).findFirst().get();
@@ -380,9 +378,7 @@ public class FrameTableTest extends BridgeTest {
                 int[] rel = FakePernix.releaseStates(r.name, 0);
                 for (int i = 0; i < rel.length; i++) {
                     byte[] b = FakePernix.arg(r.name, 0, i);
-                    boolean poisoned = false;
-                    for (int k = 0; b != null && k < b.length; k++) poisoned |= b[k] == (byte) 0xA5;
-                    check(r, "argument " + i, !poisoned, "reached the library holding bytes it was never given");
+                    check(r, "argument " + i, !Bytes.holds(b, 0xA5), "reached the library holding bytes it was never given");
                     check(r, "argument " + i, rel[i] != FakePernix.LIVE, "block not released");
                 }
                 if (FakePernix.SEAM) {  // only the seam sees how a block was released
@@ -560,11 +556,9 @@ public class FrameTableTest extends BridgeTest {
                         byte[] a = full.get(i);
                         byte[] b = sent.get(i);
                         if (a == null || b == null || a.length != b.length) continue;
-                        int o = 0;
-                        while (o < a.length && a[o] == b[o]) o++;
-                        int rest = o;
-                        while (rest < b.length && b[rest] == 0) rest++;
-                        check(r, what + ", argument " + i, rest == b.length,
+                        int o = Bytes.mismatch(a, b);
+                        int rest = o < 0 ? -1 : Bytes.find(b, o, 0, true);
+                        check(r, what + ", argument " + i, rest < 0,
                               "bytes written after the null member (first difference at " + o
                               + ", non-zero again at " + rest + ")");
                     }

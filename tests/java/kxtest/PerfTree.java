@@ -3,6 +3,7 @@ package kxtest;
 import static org.junit.Assert.assertEquals;
 
 import java.lang.reflect.Array;
+import java.lang.reflect.Constructor;
 import java.lang.reflect.Field;
 import java.lang.reflect.Modifier;
 import java.nio.ByteBuffer;
@@ -75,46 +76,113 @@ final class PerfTree {
             .filter(f -> !Modifier.isStatic(f.getModifiers())).toArray(Field[]::new);
     }
 
+    private static final int INT = 0, RATE = 1, ARRAY = 2, RECORD = 3;
+
+    /**
+     * A class's fields as a walk needs them, worked out once per class: the
+     * trees hold up to 77,000 objects and the i386 legs interpret every line.
+     */
+    private static final class Plan {
+        final Class<?> type;
+        final Field[] fields;
+        final int[] kinds;
+        final int[][] dims;
+        final Plan[] members; // the record class of RECORD fields and of record arrays
+        final String[] keys;
+        final boolean time;
+        Constructor<?> make;
+
+        Plan(Class<?> c) {
+            type = c;
+            fields = fields(c);
+            kinds = new int[fields.length];
+            dims = new int[fields.length][];
+            members = new Plan[fields.length];
+            keys = new String[fields.length];
+            time = c.getSimpleName().equals("KXTime");
+            for (int i = 0; i < fields.length; i++) {
+                fields[i].setAccessible(true);  // no access check at each of the tree's leaves
+                Class<?> t = fields[i].getType();
+                keys[i] = c.getSimpleName() + "." + fields[i].getName();
+                if (t == int.class) {
+                    kinds[i] = INT;
+                } else if (t == short.class) {
+                    kinds[i] = RATE;
+                } else if (t.isArray()) {
+                    kinds[i] = ARRAY;
+                    dims[i] = DIMS.get(keys[i]);
+                    if (dims[i] == null) throw new AssertionError("no capacity for " + keys[i]);
+                    Class<?> e = t;
+                    while (e.isArray()) e = e.getComponentType();
+                    if (!e.isPrimitive()) members[i] = plan(e);
+                } else {
+                    kinds[i] = RECORD;
+                    members[i] = plan(t);
+                }
+            }
+        }
+
+        Object make() throws ReflectiveOperationException {
+            if (make == null) make = type.getConstructor();
+            return make.newInstance();
+        }
+    }
+
+    private static final Map<Class<?>, Plan> PLANS = new HashMap<>();
+
+    private static Plan plan(Class<?> c) {
+        Plan p = PLANS.get(c);
+        if (p == null) {
+            p = new Plan(c);
+            PLANS.put(c, p);
+        }
+        return p;
+    }
+
     /** Visits every leaf of obj laid out from off; returns the offset after it. */
     static int walk(Object obj, int off, Leaf leaf) {
         try {
-            Class<?> c = obj.getClass();
-            for (Field f : fields(c)) {
-                Class<?> t = f.getType();
-                String key = c.getSimpleName() + "." + f.getName();
-                if (t == int.class) {
-                    f.setInt(obj, leaf.at(off, false, f.getInt(obj)));
-                    off += 4;
-                } else if (t == short.class) {
-                    f.setShort(obj, (short) leaf.at(off, true, f.getShort(obj)));
-                    off += 8;
-                } else if (t.isArray()) {
-                    int[] dims = DIMS.get(key);
-                    if (dims == null) throw new AssertionError("no capacity for " + key);
-                    off = walkArray(f.get(obj), dims, 0, off, leaf, key);
-                } else {
-                    off = walk(f.get(obj), off, leaf);
-                }
-            }
-            if (c.getSimpleName().equals("KXTime")) off += 8;
-            return off;
+            return walk(plan(obj.getClass()), obj, off, leaf);
         } catch (IllegalAccessException e) {
             throw new AssertionError(e);
         }
     }
 
-    private static int walkArray(Object arr, int[] dims, int level, int off, Leaf leaf, String key) {
-        assertEquals("length of " + key, dims[level], Array.getLength(arr));
-        for (int i = 0; i < dims[level]; i++) {
-            if (level + 1 < dims.length) {
-                off = walkArray(Array.get(arr, i), dims, level + 1, off, leaf, key);
-            } else if (arr instanceof int[]) {
-                int[] a = (int[]) arr;
-                a[i] = leaf.at(off, false, a[i]);
-                off += 4;
-            } else {
-                off = walk(Array.get(arr, i), off, leaf);
+    private static int walk(Plan p, Object obj, int off, Leaf leaf) throws IllegalAccessException {
+        if (p.type != obj.getClass()) p = plan(obj.getClass());
+        for (int i = 0; i < p.fields.length; i++) {
+            Field f = p.fields[i];
+            switch (p.kinds[i]) {
+                case INT:
+                    f.setInt(obj, leaf.at(off, false, f.getInt(obj)));
+                    off += 4;
+                    break;
+                case RATE:
+                    f.setShort(obj, (short) leaf.at(off, true, f.getShort(obj)));
+                    off += 8;
+                    break;
+                case ARRAY:
+                    off = walkArray(f.get(obj), p.dims[i], 0, off, leaf, p.keys[i], p.members[i]);
+                    break;
+                default:
+                    off = walk(p.members[i], f.get(obj), off, leaf);
             }
+        }
+        return p.time ? off + 8 : off;
+    }
+
+    private static int walkArray(Object arr, int[] dims, int level, int off, Leaf leaf, String key, Plan member)
+            throws IllegalAccessException {
+        assertEquals("length of " + key, dims[level], Array.getLength(arr));
+        if (arr instanceof int[]) {
+            int[] a = (int[]) arr;
+            for (int i = 0; i < a.length; i++, off += 4) a[i] = leaf.at(off, false, a[i]);
+            return off;
+        }
+        Object[] a = (Object[]) arr;
+        for (int i = 0; i < a.length; i++) {
+            off = level + 1 < dims.length ? walkArray(a[i], dims, level + 1, off, leaf, key, member)
+                                          : walk(member, a[i], off, leaf);
         }
         return off;
     }
@@ -122,30 +190,65 @@ final class PerfTree {
     /** A new tree of class c with every array at its capacity and every element made. */
     static <T> T shape(Class<T> c) {
         try {
-            T obj = c.getConstructor().newInstance();
-            for (Field f : fields(c)) {
-                Class<?> t = f.getType();
-                if (t.isPrimitive()) continue;
-                if (t.isArray()) {
-                    f.set(obj, shapeArray(t, DIMS.get(c.getSimpleName() + "." + f.getName()), 0));
-                } else {
-                    f.set(obj, shape(t));
-                }
-            }
-            return obj;
+            return c.cast(shape(plan(c)));
         } catch (ReflectiveOperationException e) {
             throw new AssertionError(e);
         }
     }
 
-    private static Object shapeArray(Class<?> t, int[] dims, int level) {
+    private static Object shape(Plan p) throws ReflectiveOperationException {
+        Object obj = p.make();
+        for (int i = 0; i < p.fields.length; i++) {
+            if (p.kinds[i] == ARRAY) {
+                p.fields[i].set(obj, shapeArray(p.fields[i].getType(), p.dims[i], 0, p.members[i]));
+            } else if (p.kinds[i] == RECORD) {
+                p.fields[i].set(obj, shape(p.members[i]));
+            }
+        }
+        return obj;
+    }
+
+    private static Object shapeArray(Class<?> t, int[] dims, int level, Plan member)
+            throws ReflectiveOperationException {
         Class<?> elem = t.getComponentType();
-        Object arr = Array.newInstance(elem, dims[level]);
-        if (elem.isPrimitive()) return arr;
-        for (int i = 0; i < dims[level]; i++) {
-            Array.set(arr, i, elem.isArray() ? shapeArray(elem, dims, level + 1) : shape(elem));
+        if (elem == int.class) return new int[dims[level]];
+        Object[] arr = (Object[]) Array.newInstance(elem, dims[level]);
+        for (int i = 0; i < arr.length; i++) {
+            arr[i] = elem.isArray() ? shapeArray(elem, dims, level + 1, member) : shape(member);
         }
         return arr;
+    }
+
+    /** Visits every leaf of class c's layout from off, without any object. */
+    private static int layout(Plan p, int off, Leaf leaf) {
+        for (int i = 0; i < p.fields.length; i++) {
+            switch (p.kinds[i]) {
+                case INT:
+                    leaf.at(off, false, 0);
+                    off += 4;
+                    break;
+                case RATE:
+                    leaf.at(off, true, 0);
+                    off += 8;
+                    break;
+                case ARRAY: {
+                    int n = 1;
+                    for (int d : p.dims[i]) n *= d;
+                    for (int k = 0; k < n; k++) {
+                        if (p.members[i] == null) {
+                            leaf.at(off, false, 0);
+                            off += 4;
+                        } else {
+                            off = layout(p.members[i], off, leaf);
+                        }
+                    }
+                    break;
+                }
+                default:
+                    off = layout(p.members[i], off, leaf);
+            }
+        }
+        return p.time ? off + 8 : off;
     }
 
     /** The patterned word at off. */
@@ -165,7 +268,7 @@ final class PerfTree {
      */
     static byte[] pattern(Class<?> c, int size, int seed, boolean exact) {
         ByteBuffer b = ByteBuffer.allocate(size).order(ByteOrder.LITTLE_ENDIAN);
-        int end = walk(shape(c), 0, (off, rate, cur) -> {
+        int end = layout(plan(c), 0, (off, rate, cur) -> {
             if (rate) {
                 int k = fixed(off, seed);
                 b.putDouble(off, exact ? k / 100.0 : (k + Math.signum(k) * 0.4) / 100.0);

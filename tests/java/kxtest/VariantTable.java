@@ -13,7 +13,9 @@ import java.util.ArrayList;
 import java.util.IdentityHashMap;
 import java.util.List;
 import java.util.Map;
+import java.util.Set;
 import java.util.TreeMap;
+import java.util.TreeSet;
 import orvane.str.diskarray.DiskArrayUtilityJNI;
 import org.junit.Test;
 
@@ -28,8 +30,9 @@ import org.junit.Test;
  * <li>the simple name of a Throwable class: that is thrown (the JVM's own error).
  * </ul>
  * Each native is called once with the plain arguments of the frame table and
- * must reach the library exactly once, releasing every block.  A variant's
- * test extends this class and names its folder.
+ * must reach the library exactly once, releasing every block.  Every native
+ * whose result type holds a class the variant replaces must have a line.  A
+ * variant's test extends this class and names its folder.
  */
 public abstract class VariantTable extends BridgeTest {
     private final String variant;
@@ -65,10 +68,42 @@ public abstract class VariantTable extends BridgeTest {
         }
     }
 
+    Path folder() {
+        return Paths.get(System.getProperty("kx.tests", "tests")).resolve("java").resolve("variants").resolve(variant);
+    }
+
+    /** Classes of the variant reachable from type t through its fields' declared types. */
+    static void reachable(Class<?> t, Set<Class<?>> seen, Set<String> out) {
+        while (t.isArray()) t = t.getComponentType();
+        if (!FrameTableTest.isRecord(t) || !seen.add(t)) return;
+        java.security.CodeSource src = t.getProtectionDomain().getCodeSource();
+        // The variant's classes are compiled into a folder of their own, variant-<name>.
+        if (src != null && src.getLocation().getPath().contains("/variant-")) out.add(t.getSimpleName());
+        for (java.lang.reflect.Field f : t.getFields()) {
+            if (!Modifier.isStatic(f.getModifiers())) reachable(f.getType(), seen, out);
+        }
+    }
+
+    @Test
+    public void everyNativeWhoseResultHoldsAClassOfTheVariantHasALine() throws Exception {
+        Set<String> listed = new TreeSet<>();
+        for (String line : Files.readAllLines(folder().resolve("expect.tsv"))) {
+            String[] t = line.replaceAll("#.*", "").trim().split("\\s+");
+            if (!t[0].isEmpty()) listed.add(t[0]);
+        }
+        List<String> missing = new ArrayList<>();
+        for (Method m : DiskArrayUtilityJNI.class.getDeclaredMethods()) {
+            if (!Modifier.isNative(m.getModifiers()) || listed.contains(m.getName())) continue;
+            Set<String> classes = new TreeSet<>();
+            reachable(m.getReturnType(), new java.util.HashSet<>(), classes);
+            if (!classes.isEmpty()) missing.add(m.getName() + " builds " + classes);
+        }
+        if (!missing.isEmpty()) fail("natives without a line:\n" + String.join("\n", missing));
+    }
+
     @Test
     public void eachNativeAnswersAsTheVariantExpects() throws Exception {
-        Path file = Paths.get(System.getProperty("kx.tests", "tests")).resolve("java").resolve("variants")
-            .resolve(variant).resolve("expect.tsv");
+        Path file = folder().resolve("expect.tsv");
         Map<String, Method> natives = new TreeMap<>();
         for (Method m : DiskArrayUtilityJNI.class.getDeclaredMethods()) {
             if (Modifier.isNative(m.getModifiers())) natives.put(m.getName(), m);

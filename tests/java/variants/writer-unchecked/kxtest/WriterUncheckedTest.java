@@ -1,9 +1,10 @@
 package kxtest;
 
 /**
- * Result classes lacking a last field whose failure does not drop the object
- * (the object comes back with the JVM's error pending), and one lacking a
- * checked field of a record that is also nested in another result.
+ * Result classes lacking their last field whose failure does not drop the
+ * object: where no checked field follows it the object comes back with the
+ * JVM's error pending, otherwise the next checked field fails and the object
+ * is dropped.  The session class leaves its token unmade, which drops nothing.
  */
 public class WriterUncheckedTest extends VariantTable {
     public WriterUncheckedTest() {
