@@ -81,10 +81,17 @@ Lookups::Entry* Lookups::made(const RecordDesc& desc) {
 
 jfieldID Lookups::field_id(JNIEnv* env, jobject obj, const Field& f, const char* sig) {
   if (obj == nullptr || pending(env)) return nullptr;
-  jclass cls = env->GetObjectClass(obj);
-  if (cls == nullptr) return nullptr;
   Lookups* l = current;
   if (l != nullptr && l->env_ != env) l = nullptr;
+  if (l != nullptr && l->writing.obj == obj && l->writing.entry != nullptr &&
+      &l->writing.entry->desc->fields[l->writing.index] == &f) {
+    // An object the walker made: of exactly the entry's class.
+    jfieldID& slot = l->writing.entry->ids[l->writing.index];
+    if (slot == nullptr) slot = env->GetFieldID(l->writing.entry->cls, f.name, sig);
+    return slot;
+  }
+  jclass cls = env->GetObjectClass(obj);
+  if (cls == nullptr) return nullptr;
   if (l != nullptr) {
     for (int i = 0; i < l->field_ids_; ++i) {
       FieldId& known = l->field_id_table_[i];

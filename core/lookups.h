@@ -91,6 +91,17 @@ class Lookups {
   // class has no such field.
   static jfieldID field_id(JNIEnv* env, jobject obj, const Field& f, const char* sig);
 
+  // The object whose field `index` a custom converter is writing, with the
+  // writer's entry that made it: field_id() then keeps that field's ID in the
+  // entry, without asking the JVM for the object's class (a snapshot holds
+  // thousands of such fields).
+  struct Writing {
+    jobject obj;
+    Entry* entry;
+    uint32_t index;
+  };
+  Writing writing{};
+
   // The reader's entry of desc for objects of class `cls` (a local reference
   // the caller owns; an entry that keeps it takes it over and sets cls to
   // null).  Null when there is no room.

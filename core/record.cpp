@@ -402,8 +402,15 @@ jobjectArray write_elements(Walk& w, const RecordDesc& elem, const uint8_t* src,
       }
       return set_object(w, t, f, index, f.elem->array2_sig, outer.get());
     }
-    case Kind::Custom:
-      return f.write ? f.write(env, obj, f, rec) : kOk;
+    case Kind::Custom: {
+      if (!f.write) return kOk;
+      // The converter's field_id() finds this field's ID in the entry.
+      const Lookups::Writing outer = w.lookups.writing;
+      w.lookups.writing = {obj, t.entry, index};
+      int rc = f.write(env, obj, f, rec);
+      w.lookups.writing = outer;
+      return rc;
+    }
   }
   return kMarshal;
 }

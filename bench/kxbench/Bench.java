@@ -302,7 +302,9 @@ public final class Bench {
             }
             return null;
         }
-        if (a instanceof Number) return a.equals(b) ? null : path + ": " + a + " against " + b;
+        if (a instanceof Number || a instanceof String) {
+            return a.equals(b) ? null : path + ": " + a + " against " + b;
+        }
         try {
             for (Field f : fields(cls)) {
                 String d = difference(f.get(a), f.get(b), path + "." + f.getName());

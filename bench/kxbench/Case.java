@@ -65,7 +65,7 @@ public abstract class Case {
      */
     protected final Object planned(boolean lax, int copies) {
         if (plan == null) {
-            plan = new Planned(copies > 0 ? java.lang.reflect.Array.get(sample, 0) : sample, reservedTails());
+            plan = new Planned(copies > 0 ? java.lang.reflect.Array.get(sample, 0) : sample, reservedTails(), hints());
         }
         return HandJni.planned(plan.flat, bytes, copies, lax);
     }
@@ -73,6 +73,11 @@ public abstract class Case {
     /** For planned(): bytes that C records hold after their described fields, by simple class name. */
     protected java.util.Map<String, Integer> reservedTails() {
         return java.util.Map.of("KXTime", 8);
+    }
+
+    /** For planned(): C fields the Java types do not tell, by "SimpleClass.field" (see Planned). */
+    protected java.util.Map<String, String> hints() {
+        return java.util.Map.of();
     }
 
     /** planned() over the sample's shape: an array of records or one record. */

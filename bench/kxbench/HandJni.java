@@ -23,4 +23,6 @@ final class HandJni {
     static native byte[] startLuMigration(Object request, boolean lax);
     /** The tree of plan (Planned.flat) built from record; copies > 0: an array of that many records. */
     static native Object planned(Object[] plan, byte[] record, int copies, boolean lax);
+    /** obj read with plan into a zero-filled record; its bytes when give, else an empty array. */
+    static native byte[] plannedRead(Object[] plan, Object obj, boolean give);
 }

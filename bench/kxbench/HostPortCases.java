@@ -4,6 +4,7 @@ import java.nio.ByteBuffer;
 import java.nio.charset.StandardCharsets;
 import java.util.Arrays;
 import java.util.List;
+import java.util.Map;
 import kxtest.FakePernix;
 import orvane.str.diskarray.*;
 
@@ -79,6 +80,30 @@ final class HostPortCases {
         @Override
         public Object callNative() {
             return JNI.KX_GetFibreInformation(UNIT, SESSION);
+        }
+
+        @Override
+        public Object buildJni(boolean lax) {
+            return planned(lax);
+        }
+
+        @Override
+        protected Map<String, String> hints() {
+            return Map.ofEntries(Map.entry("FibreInformation.lun_security", "s+3"),
+                Map.entry("FibreInformation.product_number", "z5+3"),
+                Map.entry("FibreInformationPort.node_name", "z17"), Map.entry("FibreInformationPort.port_name", "z17"),
+                Map.entry("FibreInformationPort.n_port_id", "z7"), Map.entry("FibreInformationPort.get_address", "z7"),
+                Map.entry("FibreInformationPort.frame_size", "u"), Map.entry("FibreInformationPort.if_board", "u"),
+                Map.entry("FibreInformationPort.support_speed", "u"), Map.entry("FibreInformationPort.set_speed", "u"),
+                Map.entry("FibreInformationPort.refer_speed", "u+3"),
+                Map.entry("FibreInformationSfc.biu", "z9"), Map.entry("FibreInformationSfc.sequence", "z9"),
+                Map.entry("FibreInformationSfc.oper_firmware", "z9"), Map.entry("FibreInformationSfc.post_firmware", "z9"),
+                Map.entry("FibreInformationSfc.endec", "z9"), Map.entry("FibreInformationSfc.fc_ph", "z6"),
+                Map.entry("FibreInformationSecurity.access_guard", "s"),
+                Map.entry("FibreInformationSecurity.all_lun_security", "s+2"),
+                Map.entry("FibreInformationPermission.node_name", "z17"),
+                Map.entry("FibreInformationPermission.port_name", "z17"),
+                Map.entry("FibreInformationPermission.n_port_id", "z7"));
         }
 
         @Override
@@ -181,6 +206,21 @@ final class HostPortCases {
         @Override
         public Object callNative() {
             return JNI.KX_GetiSCSICHAPUserInformationAll(UNIT, SESSION);
+        }
+
+        @Override
+        public Object buildJni(boolean lax) {
+            return planned(lax);
+        }
+
+        @Override
+        protected Map<String, String> hints() {
+            return Map.of("KXiSCSICHAPUserInfo.user_name", "z257", "KXiSCSICHAPUserInfo.secret", "z33");
+        }
+
+        @Override
+        protected Map<String, Integer> reservedTails() {
+            return Map.of("KXiSCSICHAPUserInfo", 2);
         }
 
         @Override

@@ -2,6 +2,9 @@ package kxbench;
 
 import java.nio.ByteBuffer;
 import java.nio.ByteOrder;
+import java.util.Arrays;
+import java.util.Map;
+import kxtest.FakePernix;
 import orvane.str.diskarray.PerformanceAll;
 import orvane.str.diskarray.PerformanceCollectGraph;
 import orvane.str.diskarray.PerformanceCollectGraphInfo;
@@ -124,9 +127,44 @@ final class PerfCases {
             return info;
         }
 
-        /** The graphs only: the floor does not read the four snapshots the native reads first. */
+        /** The native's request: four snapshots, read into records before the graphs are built. */
+        private static final Object[] SNAPSHOTS = {REQUEST.preinfo0, REQUEST.afterinfo0, REQUEST.preinfo1,
+            REQUEST.afterinfo1};
+        private static final Object[] SNAPSHOT_PLAN = new Planned(PerfFloors.PerformanceAll(
+            ByteBuffer.wrap(new byte[1547412]).order(ByteOrder.LITTLE_ENDIAN), 0), Map.of("KXTime", 8), Map.of()).flat;
+
+        /**
+         * The snapshot reader gives the records the native hands the library: checked on the request timed
+         * (empty snapshots) and on one of four full snapshots (counters in every field).
+         */
+        @Override
+        public void sample(Object got) {
+            super.sample(got);
+            PerformanceOutputGraphInfo full = new PerformanceOutputGraphInfo();
+            full.preinfo0 = full.afterinfo0 = full.preinfo1 = full.afterinfo1 = PerfFloors.PerformanceAll(
+                new Snapshots().le(), 0);
+            Object[][] requests = {SNAPSHOTS, {full.preinfo0, full.afterinfo0, full.preinfo1, full.afterinfo1}};
+            for (int r = 0; r < 2; r++) {
+                if (r == 1) {
+                    script(false);
+                    JNI.KX_PerformanceOutputGraphInfo(UNIT, SESSION, full);
+                }
+                for (int k = 0; k < 4; k++) {
+                    byte[] floor = HandJni.plannedRead(SNAPSHOT_PLAN, requests[r][k], true);
+                    if (!Arrays.equals(floor, FakePernix.pointee(name(), 0, 2, k))) {
+                        throw new AssertionError("the snapshot reader differs from the native's: request " + r);
+                    }
+                }
+            }
+            script(false);
+        }
+
+        /** Like the native: the four snapshots read into records, then the graphs built. */
         @Override
         public Object buildJni(boolean lax) {
+            for (Object snapshot : SNAPSHOTS) {
+                if (HandJni.plannedRead(SNAPSHOT_PLAN, snapshot, false) == null) return null;
+            }
             return planned(lax, 0);
         }
     }

@@ -7,6 +7,8 @@ import java.util.ArrayList;
 import java.util.IdentityHashMap;
 import java.util.List;
 import java.util.Map;
+import java.util.regex.Matcher;
+import java.util.regex.Pattern;
 
 /**
  * A hand-written JNI floor for trees too large to list field by field: the
@@ -15,14 +17,19 @@ import java.util.Map;
  * 8-byte double rate, int[] / int[][] / byte[] their lengths times their width,
  * a record its own size, arrays of records their elements one after another),
  * array lengths from a tree the native built, and the reserved bytes some C
- * records hold after their last field named by the case.  The probe library
+ * records hold after their last field named by the case.  Where the Java type
+ * does not tell the C field (a String's width, an int held in one byte), the
+ * case names the field in a hint: "z17" text of 17 bytes, "s" a signed byte,
+ * "u" an unsigned byte, each optionally followed by "+3": reserved bytes after
+ * the field.  The probe library
  * (HandJni.planned) then looks every class, constructor and field of the plan
  * up once per call and converts the bytes the way the hand-written floors do.
  * A plan that does not match the C layout builds a different tree, which the
  * benchmark refuses before it measures anything.
  */
 final class Planned {
-    static final int INT = 0, INTS = 1, INTS2 = 2, RECORD = 3, RECORDS = 4, RECORDS2 = 5, RATE = 6, BYTES = 7;
+    static final int INT = 0, INTS = 1, INTS2 = 2, RECORD = 3, RECORDS = 4, RECORDS2 = 5, RATE = 6, BYTES = 7,
+        TEXT = 8, SBYTE = 9, UBYTE = 10, SKIP = 11;
 
     /** One class's plan: its C size and, per field, the op (kind, count, columns, element plan), name, signature. */
     private static final class Plan {
@@ -37,6 +44,8 @@ final class Planned {
         }
     }
 
+    private static final Pattern HINT = Pattern.compile("([zsu])(\\d*)(?:\\+(\\d+))?");
+
     private final List<Plan> plans = new ArrayList<>();
     private final Map<Class<?>, Integer> index = new IdentityHashMap<>();
 
@@ -49,9 +58,12 @@ final class Planned {
 
     /** Bytes a C record holds after its described fields (reserved tails), by simple class name. */
     private final Map<String, Integer> tails;
+    /** C fields the Java type does not tell, by "SimpleClass.field" (see the class comment). */
+    private final Map<String, String> hints;
 
-    Planned(Object sample, Map<String, Integer> tails) {
+    Planned(Object sample, Map<String, Integer> tails, Map<String, String> hints) {
         this.tails = tails;
+        this.hints = hints;
         plan(sample);
         List<String> classes = new ArrayList<>();
         List<Integer> code = new ArrayList<>();
@@ -79,6 +91,7 @@ final class Planned {
         if (t == int.class) return "I";
         if (t == short.class) return "S";
         if (t == byte.class) return "B";
+        if (t == String.class) return "Ljava/lang/String;";
         if (t.isArray()) return "[" + sig(t.getComponentType());
         return "L" + path(t) + ";";
     }
@@ -98,6 +111,27 @@ final class Planned {
                 Class<?> t = f.getType();
                 Object v = f.get(sample);
                 int[] op;
+                String hint = hints.get(cls.getSimpleName() + "." + f.getName());
+                if (hint != null) {
+                    Matcher m = HINT.matcher(hint);
+                    if (!m.matches()) throw new IllegalArgumentException("bad hint " + hint);
+                    int width = m.group(2).isEmpty() ? 1 : Integer.parseInt(m.group(2));
+                    char k = m.group(1).charAt(0);
+                    op = new int[] {k == 'z' ? TEXT : k == 's' ? SBYTE : UBYTE, width, 0, -1};
+                    p.size += width;
+                    p.ops.add(op);
+                    p.names.add(f.getName());
+                    p.sigs.add(sig(t));
+                    if (m.group(3) != null) {
+                        int skip = Integer.parseInt(m.group(3));
+                        p.ops.add(new int[] {SKIP, skip, 0, -1});
+                        p.names.add("");
+                        p.sigs.add("");
+                        p.size += skip;
+                    }
+                    continue;
+                }
+                if (t == String.class) throw new IllegalArgumentException(f + ": a String needs a width hint");
                 if (t == int.class) {
                     op = new int[] {INT, 1, 0, -1};
                     p.size += 4;

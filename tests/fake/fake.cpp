@@ -18,9 +18,10 @@ namespace {
 constexpr size_t kGuard = 32;
 constexpr uint8_t kGuardByte = 0x5A;
 // Fresh blocks hold this byte throughout: only the bridge's own clearing
-// shows zeros.  Released blocks are overwritten with kFreedByte.
+// shows zeros.  Released blocks are overwritten with it too (what the bridge
+// might still read there is garbage), so a block taken again from the spare
+// ones already holds it.
 constexpr uint8_t kPoisonByte = 0xA5;
-constexpr uint8_t kFreedByte = 0xDD;
 // A run this long of the poison byte in a block handed to the library means
 // the block was not cleared.
 constexpr size_t kPoisonRun = 8;
@@ -46,11 +47,51 @@ struct State {
   // lost to a test that resets the double midway.
   std::vector<std::string> faults;
   std::map<size_t, long> unwiped;  // released blocks that still held non-zero bytes, by size
+  // Memory kept for reuse: records and their recorded copies run to
+  // megabytes, and memory fresh from the system at every call would cost more
+  // page faults than the call itself.  Released blocks (filled with kPoisonByte)
+  // by their raw size, and the byte buffers of the calls forgotten by reset().
+  std::multimap<size_t, uint8_t*> spare_blocks;
+  size_t spare_block_bytes = 0;
+  std::vector<std::vector<uint8_t>> spare_copies;
 };
+
+constexpr size_t kSpareMax = size_t{64} << 20;  // bytes of released blocks kept at most
+constexpr size_t kSpareCopyMin = size_t{64} << 10;  // smaller copies are not worth keeping
+constexpr size_t kSpareCopies = 16;
 
 State& state() {
   static State s;
   return s;
+}
+
+// Blocks run to megabytes: the scans below compare whole chunks with the
+// library's memcmp/memchr and look at single bytes only where a chunk differs.
+constexpr size_t kChunk = 4096;
+constexpr uint8_t kZeros[kChunk] = {};
+
+// Index of the first non-zero byte of p[0, n), or n.
+size_t first_nonzero(const uint8_t* p, size_t n) {
+  size_t i = 0;
+  while (i < n && std::memcmp(p + i, kZeros, std::min(kChunk, n - i)) == 0) i += kChunk;
+  for (; i < n; ++i) {
+    if (p[i] != 0) return i;
+  }
+  return n;
+}
+
+// Whether p[0, n) holds kPoisonRun poison bytes in a row.
+bool has_poison_run(const uint8_t* p, size_t n) {
+  static constexpr uint8_t kRun[kPoisonRun] = {kPoisonByte, kPoisonByte, kPoisonByte, kPoisonByte,
+                                               kPoisonByte, kPoisonByte, kPoisonByte, kPoisonByte};
+  for (size_t i = 0; i + kPoisonRun <= n;) {
+    const void* hit = std::memchr(p + i, kPoisonByte, n - i - (kPoisonRun - 1));
+    if (hit == nullptr) return false;
+    i = static_cast<size_t>(static_cast<const uint8_t*>(hit) - p);
+    if (std::memcmp(p + i, kRun, kPoisonRun) == 0) return true;
+    ++i;
+  }
+  return false;
 }
 
 }  // namespace
@@ -85,15 +126,22 @@ void record(Call& call, const void* p, size_t size) {
       it->second.call = static_cast<long>(s.calls.size()) - 1;
       it->second.arg = call.args.size();
       a.release = Arg::Live;
-      const auto* b = static_cast<const uint8_t*>(p);
-      size_t run = 0;
-      for (size_t i = 0; i < size && run < kPoisonRun; ++i) run = b[i] == kPoisonByte ? run + 1 : 0;
-      if (run == kPoisonRun) {
+      if (has_poison_run(static_cast<const uint8_t*>(p), size)) {
         s.faults.push_back(call.fn + ": argument " + std::to_string(call.args.size()) +
                            " handed over without being cleared");
       }
     }
     const auto* b = static_cast<const uint8_t*>(p);
+    if (size >= kSpareCopyMin) {
+      for (auto& spare : s.spare_copies) {
+        if (spare.capacity() >= size) {
+          a.bytes = std::move(spare);
+          std::swap(spare, s.spare_copies.back());
+          s.spare_copies.pop_back();
+          break;
+        }
+      }
+    }
     a.bytes.assign(b, b + size);
   }
   call.args.push_back(std::move(a));
@@ -140,10 +188,18 @@ extern "C" __attribute__((visibility("default"))) void* pernix_seam_alloc(size_t
   State& s = state();
   std::lock_guard<std::recursive_mutex> lock(s.mu);
   if (++s.allocations == s.fail_at) return nullptr;
-  auto* raw = static_cast<uint8_t*>(std::malloc(bytes + 2 * kGuard));
-  if (raw == nullptr) return nullptr;
+  uint8_t* raw = nullptr;
+  auto spare = s.spare_blocks.find(bytes + 2 * kGuard);
+  if (spare != s.spare_blocks.end()) {
+    raw = spare->second;
+    s.spare_block_bytes -= spare->first;
+    s.spare_blocks.erase(spare);
+  } else {
+    raw = static_cast<uint8_t*>(std::malloc(bytes + 2 * kGuard));
+    if (raw == nullptr) return nullptr;
+    std::memset(raw + kGuard, kPoisonByte, bytes);
+  }
   std::memset(raw, kGuardByte, kGuard);
-  std::memset(raw + kGuard, kPoisonByte, bytes);
   std::memset(raw + kGuard + bytes, kGuardByte, kGuard);
   s.live[raw + kGuard] = Block{bytes};
   s.live_bytes += bytes;
@@ -173,30 +229,26 @@ extern "C" __attribute__((visibility("default"))) void pernix_seam_free(void* bl
       break;
     }
   }
-  for (size_t i = 0; i < b.bytes; ++i) {
-    if (raw[kGuard + i] != 0) {
-      ++s.unwiped[b.bytes];
-      break;
-    }
-  }
+  const size_t data_at = first_nonzero(raw + kGuard, b.bytes);
+  if (data_at < b.bytes) ++s.unwiped[b.bytes];
   s.live_bytes -= b.bytes;
-  if (wipe != 0) {
-    for (size_t i = 0; i < b.bytes; ++i) {
-      if (raw[kGuard + i] != 0) {
-        s.faults.push_back("a " + std::to_string(b.bytes) +
-                           "-byte block released as wiped still holds data at byte " +
-                           std::to_string(i));
-        break;
-      }
-    }
+  if (wipe != 0 && data_at < b.bytes) {
+    s.faults.push_back("a " + std::to_string(b.bytes) +
+                       "-byte block released as wiped still holds data at byte " +
+                       std::to_string(data_at));
   }
   if (b.call >= 0 && static_cast<size_t>(b.call) < s.calls.size()) {
     auto& args = s.calls[static_cast<size_t>(b.call)].args;
     if (b.arg < args.size()) args[b.arg].release = wipe != 0 ? Arg::ReleasedWiped : Arg::Released;
   }
   s.live.erase(it);
-  std::memset(raw, kFreedByte, b.bytes + 2 * kGuard);
-  std::free(raw);
+  std::memset(raw, kPoisonByte, b.bytes + 2 * kGuard);
+  if (s.spare_block_bytes + b.bytes + 2 * kGuard <= kSpareMax) {
+    s.spare_blocks.emplace(b.bytes + 2 * kGuard, raw);
+    s.spare_block_bytes += b.bytes + 2 * kGuard;
+  } else {
+    std::free(raw);
+  }
 }
 
 // ---------------------------------------------------------------- JVM control
@@ -236,12 +288,27 @@ const fake::Arg* find_arg(JNIEnv* env, jstring fn, jint call, jint arg) {
 
 }  // namespace
 
+// Keeps the large byte buffers of calls about to be forgotten for record().
+static void keep_copies(std::vector<fake::Call>& calls) {
+  auto& spare = state().spare_copies;
+  auto keep = [&](auto& self, std::vector<fake::Arg>& args) -> void {
+    for (auto& a : args) {
+      if (spare.size() < fake::kSpareCopies && a.bytes.capacity() >= fake::kSpareCopyMin) {
+        spare.push_back(std::move(a.bytes));
+      }
+      self(self, a.pointees);
+    }
+  };
+  for (auto& c : calls) keep(keep, c.args);
+}
+
 #define FAKE_JNI(ret, name) \
   extern "C" __attribute__((visibility("default"))) JNIEXPORT ret JNICALL Java_kxtest_FakePernix_##name
 
 FAKE_JNI(void, reset)(JNIEnv*, jclass) {
   auto& s = state();
   std::lock_guard<std::recursive_mutex> lock(s.mu);
+  keep_copies(s.calls);
   s.calls.clear();
   s.results.clear();
   s.outputs.clear();

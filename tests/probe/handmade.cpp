@@ -11,6 +11,7 @@
 // the IDs of the first element for all of them).
 #include <jni.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -339,7 +340,7 @@ HAND(jobject, pairInformation)(JNIEnv* env, jclass, jbyteArray bytes, jboolean l
 
 namespace {
 
-enum PlanKind { kInt, kInts, kInts2, kRecord, kRecords, kRecords2, kRate, kBytes };
+enum PlanKind { kInt, kInts, kInts2, kRecord, kRecords, kRecords2, kRate, kBytes, kText, kSByte, kUByte, kSkip };
 
 struct PlanField {
   int kind, count, columns, elem;
@@ -353,6 +354,8 @@ struct PlanClass {
   int size = 0;
   std::vector<PlanField> fields;
 };
+
+constexpr int kMaxText = 511;  // widest text field a plan may hold
 
 int16_t rate_short(double value) {
   double scaled = std::trunc(value * 100.0);
@@ -396,6 +399,11 @@ class Plan {
         PlanField f{code[at], code[at + 1], code[at + 2], code[at + 3], nullptr, nullptr};
         at += 4;
         std::string sig = utf(env, sigs, name);
+        if (f.kind == kText && f.count >= kMaxText) return;
+        if (f.kind == kSkip) {  // reserved bytes: no field
+          c.fields.push_back(f);
+          continue;
+        }
         f.id = env->GetFieldID(c.cls, utf(env, names, name).c_str(), sig.c_str());
         if (f.id == nullptr) return;
         if (f.kind == kInts2 || f.kind == kRecords2) {
@@ -441,6 +449,30 @@ class Plan {
           std::memcpy(&v, p, sizeof v);
           env_->SetShortField(o, f.id, rate_short(v));
           p += 8;
+          continue;
+        }
+        case kSByte:
+        case kUByte:
+          env_->SetIntField(o, f.id, f.kind == kSByte ? static_cast<int8_t>(*p) : *p);
+          p += 1;
+          continue;
+        case kSkip:
+          p += f.count;
+          continue;
+        case kText: {
+          // NUL-terminated within the field, or all of its bytes.
+          const char* text = reinterpret_cast<const char*>(p);
+          char copy[kMaxText + 1];
+          if (std::memchr(p, 0, static_cast<size_t>(f.count)) == nullptr) {
+            std::memcpy(copy, p, static_cast<size_t>(f.count));
+            copy[f.count] = '\0';
+            text = copy;
+          }
+          jstring str = env_->NewStringUTF(text);
+          if (str == nullptr) return nullptr;
+          env_->SetObjectField(o, f.id, str);
+          env_->DeleteLocalRef(str);
+          p += f.count;
           continue;
         }
         case kBytes: {
@@ -515,7 +547,114 @@ class Plan {
     return arr;
   }
 
+  // Reads o (a record of plan `index`) into the zero-filled record at p, the
+  // way the bridge's reader does: a null object or array leaves its bytes
+  // zero, arrays beyond the record's capacity are cut.  The plan's IDs serve
+  // every element (the elements here are of the described classes).
+  bool read(int index, jobject o, uint8_t* p) {
+    const PlanClass& c = classes_[static_cast<size_t>(index)];
+    for (const PlanField& f : c.fields) {
+      size_t width = 0;
+      switch (f.kind) {
+        case kInt: {
+          jint v = env_->GetIntField(o, f.id);
+          std::memcpy(p, &v, 4);
+          width = 4;
+          break;
+        }
+        case kRate: {
+          double v = env_->GetShortField(o, f.id) / 100.0;
+          std::memcpy(p, &v, 8);
+          width = 8;
+          break;
+        }
+        case kSByte:
+        case kUByte:
+          *p = static_cast<uint8_t>(env_->GetIntField(o, f.id));
+          width = 1;
+          break;
+        case kSkip:
+          width = static_cast<size_t>(f.count);
+          break;
+        case kRecord:
+          width = static_cast<size_t>(classes_[static_cast<size_t>(f.elem)].size);
+          break;
+        case kRecords:
+          width = static_cast<size_t>(f.count) * classes_[static_cast<size_t>(f.elem)].size;
+          break;
+        case kRecords2:
+          width = static_cast<size_t>(f.count) * f.columns * classes_[static_cast<size_t>(f.elem)].size;
+          break;
+        case kInts:
+          width = 4 * static_cast<size_t>(f.count);
+          break;
+        case kInts2:
+          width = 4 * static_cast<size_t>(f.count) * f.columns;
+          break;
+        default:  // kText, kBytes
+          width = static_cast<size_t>(f.count);
+          break;
+      }
+      if (f.kind == kInt || f.kind == kRate || f.kind == kSByte || f.kind == kUByte || f.kind == kSkip) {
+        p += width;
+        continue;
+      }
+      jobject v = env_->GetObjectField(o, f.id);
+      if (v != nullptr && !read_value(f, v, p)) return false;
+      if (v != nullptr) env_->DeleteLocalRef(v);
+      p += width;
+    }
+    return !env_->ExceptionCheck();
+  }
+
  private:
+  bool read_value(const PlanField& f, jobject v, uint8_t* p) {
+    auto cut = [this](jobject arr, int cap) { return std::min(env_->GetArrayLength(static_cast<jarray>(arr)), cap); };
+    switch (f.kind) {
+      case kText: {
+        auto str = static_cast<jstring>(v);
+        jsize n = std::min(env_->GetStringUTFLength(str), f.count - 1);
+        const char* chars = env_->GetStringUTFChars(str, nullptr);
+        if (chars == nullptr) return false;
+        std::memcpy(p, chars, static_cast<size_t>(n));
+        env_->ReleaseStringUTFChars(str, chars);
+        return true;
+      }
+      case kBytes:
+        env_->GetByteArrayRegion(static_cast<jbyteArray>(v), 0, cut(v, f.count), reinterpret_cast<jbyte*>(p));
+        return true;
+      case kInts:
+        env_->GetIntArrayRegion(static_cast<jintArray>(v), 0, cut(v, f.count), reinterpret_cast<jint*>(p));
+        return true;
+      case kRecord:
+        return read(f.elem, v, p);
+      default:
+        break;
+    }
+    // Tables: rows of int arrays or of records, or one row of records.
+    const size_t elem_size =
+        f.kind == kInts2 ? 4 : static_cast<size_t>(classes_[static_cast<size_t>(f.elem)].size);
+    const int rows = f.kind == kRecords ? 1 : f.count;
+    const int columns = f.kind == kRecords ? f.count : f.columns;
+    const jsize n_rows = f.kind == kRecords ? 1 : cut(v, rows);
+    for (jsize r = 0; r < n_rows; ++r) {
+      jobject row = f.kind == kRecords ? v : env_->GetObjectArrayElement(static_cast<jobjectArray>(v), r);
+      uint8_t* q = p + static_cast<size_t>(r) * columns * elem_size;
+      if (row != nullptr && f.kind == kInts2) {
+        env_->GetIntArrayRegion(static_cast<jintArray>(row), 0, cut(row, columns), reinterpret_cast<jint*>(q));
+      } else if (row != nullptr) {
+        jsize n = cut(row, columns);
+        for (jsize i = 0; i < n; ++i) {
+          jobject e = env_->GetObjectArrayElement(static_cast<jobjectArray>(row), i);
+          if (e != nullptr && !read(f.elem, e, q + static_cast<size_t>(i) * elem_size)) return false;
+          if (e != nullptr) env_->DeleteLocalRef(e);
+        }
+      }
+      if (row != nullptr && row != v) env_->DeleteLocalRef(row);
+    }
+    return true;
+  }
+
   jintArray ints(const uint8_t* p, jsize n) {
     jintArray arr = env_->NewIntArray(n);
     if (arr != nullptr) env_->SetIntArrayRegion(arr, 0, n, reinterpret_cast<const jint*>(p));
@@ -539,6 +678,20 @@ HAND(jobject, planned)(JNIEnv* env, jclass, jobjectArray plan, jbyteArray bytes,
   size_t have = static_cast<size_t>(env->GetArrayLength(bytes));
   Bytes b(env, bytes, need > have ? need : have);
   return copies > 0 ? p.list(0, b.data, copies) : p.make(0, b.data);
+}
+
+// Reads `obj` with plan (kxbench.Planned) into a zero-filled record of the
+// plan's size; the record's bytes when `give` (to check the reader), else an
+// empty array.
+HAND(jbyteArray, plannedRead)(JNIEnv* env, jclass, jobjectArray plan, jobject obj, jboolean give) {
+  Plan p(env, plan, true);
+  if (!p.ok()) return nullptr;
+  const auto size = static_cast<size_t>(p.root().size);
+  Bytes rec(env, nullptr, size);
+  if (obj != nullptr && !p.read(0, obj, rec.data)) return nullptr;
+  jbyteArray out = env->NewByteArray(give ? static_cast<jsize>(size) : 0);
+  if (out != nullptr && give) env->SetByteArrayRegion(out, 0, static_cast<jsize>(size), reinterpret_cast<jbyte*>(rec.data));
+  return out;
 }
 
 // The 24572-byte request of up to 2047 migration pairs, read from its Java

@@ -222,19 +222,27 @@ public class FrameTableTest extends BridgeTest {
     /** Record objects reachable from a result: each was made by a writer that flushes first. */
     static int records(Object o, Set<String> quiet, Map<Object, Boolean> seen) throws IllegalAccessException {
         if (o == null || seen.put(o, true) != null) return 0;
-        Class<?> c = o.getClass();
-        if (c.isArray()) {
-            if (c.getComponentType().isPrimitive()) return 0;
+        if (o instanceof Object[]) {
             int n = 0;
-            for (int i = 0; i < Array.getLength(o); i++) n += records(Array.get(o, i), quiet, seen);
+            for (Object e : (Object[]) o) n += records(e, quiet, seen);
             return n;
         }
-        if (!c.getName().startsWith(RECORD_PACKAGE)) return 0;
-        int n = quiet.contains(c.getSimpleName()) ? 0 : 1;
-        for (Field f : c.getFields()) {
-            if (!Modifier.isStatic(f.getModifiers()) && !f.getType().isPrimitive()) n += records(f.get(o), quiet, seen);
-        }
+        Field[] refs = REFERENCES.computeIfAbsent(o.getClass(), FrameTableTest::references);
+        if (refs == null) return 0;
+        int n = quiet.contains(o.getClass().getSimpleName()) ? 0 : 1;
+        for (Field f : refs) n += records(f.get(o), quiet, seen);
         return n;
+    }
+
+    /** A record class's reference fields (null: not a record class), worked out once per class. */
+    private static final Map<Class<?>, Field[]> REFERENCES = new java.util.HashMap<>();
+
+    private static Field[] references(Class<?> c) {
+        if (!c.getName().startsWith(RECORD_PACKAGE)) return null;
+        Field[] refs = Arrays.stream(c.getFields())
+            .filter(f -> !Modifier.isStatic(f.getModifiers()) && !f.getType().isPrimitive()).toArray(Field[]::new);
+        for (Field f : refs) f.setAccessible(true);
+        return refs;
     }
 
     // ------------------------------------------------------------ filled inputs
