@@ -38,6 +38,11 @@ public abstract class BridgeTest {
         void run() throws Throwable;
     }
 
+    /** A call of a native with the given unit name. */
+    public interface UnitCall {
+        void run(String unit) throws Throwable;
+    }
+
     /** Runs body, which must throw; returns what it threw. */
     public static Throwable thrown(Body body) {
         try {

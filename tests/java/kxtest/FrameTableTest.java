@@ -47,7 +47,8 @@ public class FrameTableTest extends BridgeTest {
      * <li>special: only the null and flush columns hold for it;
      * <li>wipe=i,j: library arguments (0-based) whose blocks must be released wiped;
      * <li>failed=v: the int an int native answers after a failure (default 0);
-     * <li>noflush=A,B: record classes whose writers do not flush stdout.
+     * <li>noflush=A,B: record classes whose writers do not flush stdout;
+     * <li>limit=n: every String is copied with a limit of n bytes (NUL included), not its buffer's size.
      * </ul>
      */
     static final class Row {
@@ -59,6 +60,7 @@ public class FrameTableTest extends BridgeTest {
         Set<Integer> wipe = new TreeSet<>();
         int failed;
         Set<String> noflush = new TreeSet<>();
+        int limit;  // copy limit of every String (0: its buffer's size)
         Method method;
 
         public String toString() {
@@ -112,6 +114,8 @@ public class FrameTableTest extends BridgeTest {
                         for (String v : kv[1].split(",")) r.wipe.add(Integer.parseInt(v));
                     } else if (kv.length == 2 && kv[0].equals("failed")) {
                         r.failed = Integer.parseInt(kv[1]);
+                    } else if (kv.length == 2 && kv[0].equals("limit")) {
+                        r.limit = Integer.parseInt(kv[1]);
                     } else if (kv.length == 2 && kv[0].equals("noflush")) {
                         r.noflush.addAll(Arrays.asList(kv[1].split(",")));
                     } else {
@@ -399,6 +403,96 @@ public class FrameTableTest extends BridgeTest {
                 }
             }
             checkSeamAfter(r, "success");
+            if (!r.wipe.isEmpty()) checkSecretsWipedWhole(r);
+        }
+        done();
+    }
+
+    /** Bytes for the library to store over a whole record (the largest is 1.3 MB). */
+    static byte[] wholeRecord;
+
+    /** Every byte a secret record held when the library filled it whole, and inputs filled with data. */
+    void checkSecretsWipedWhole(Row r) throws ReflectiveOperationException {
+        if (wholeRecord == null) {
+            wholeRecord = new byte[2 << 20];
+            Arrays.fill(wholeRecord, (byte) 0x5B);
+        }
+        byte[] data = wholeRecord;
+        FakePernix.reset();
+        for (int k = 0; k < 12; k++) FakePernix.willWrite(r.name, k, data);
+        Object[] args = plainArgs(r.method);
+        Class<?>[] types = r.method.getParameterTypes();
+        for (int i = 0; i < types.length; i++) if (isRecord(types[i])) args[i] = filled(types[i], null);
+        invokeWith(r, args);
+        checkSeamAfter(r, "secrets filled whole");
+    }
+
+    /** Whether b is a prefix of `text` of `length` bytes, then zeros only. */
+    static boolean holds(byte[] b, byte[] text, int length) {
+        if (b == null || length > b.length || length > text.length) return false;
+        for (int i = 0; i < b.length; i++) {
+            if (b[i] != (i < length ? text[i] : 0)) return false;
+        }
+        return true;
+    }
+
+    /**
+     * Called with distinct arguments (each String 1500 bytes of its own letter,
+     * the session's id bytes 0x51.., each int 11 plus its position), the
+     * library receives every int, in order; every String cut to its buffer (or
+     * the row's limit) and the session record, in their order.
+     */
+    @Test
+    public void stringsSessionAndIntsReachTheLibraryInTheirOrder() throws Exception {
+        for (Row r : table()) {
+            Class<?>[] types = r.method.getParameterTypes();
+            Object[] args = plainArgs(r.method);
+            List<byte[]> texts = new ArrayList<>();  // a String's bytes, or the session id
+            List<Boolean> isText = new ArrayList<>();
+            List<Integer> ints = new ArrayList<>();
+            for (int i = 0; i < types.length; i++) {
+                if (types[i] == int.class) {
+                    args[i] = 11 + i;
+                    ints.add(11 + i);
+                } else if (types[i] == String.class) {
+                    args[i] = repeat((char) ('A' + texts.size()), 1500);
+                    texts.add(((String) args[i]).getBytes(java.nio.charset.StandardCharsets.UTF_8));
+                    isText.add(true);
+                } else if (types[i] == orvane.str.diskarray.KXSessionInfo.class) {
+                    orvane.str.diskarray.KXSessionInfo s = new orvane.str.diskarray.KXSessionInfo();
+                    for (int k = 0; k < s.session_id.length; k++) s.session_id[k] = (byte) (0x51 + k);
+                    args[i] = s;
+                    texts.add(s.session_id.clone());
+                    isText.add(false);
+                }
+            }
+            FakePernix.reset();
+            invokeWith(r, args);
+            String what = "distinct arguments";
+            if (FakePernix.calls(r.name) != 1) {
+                check(r, what, r.special, "library not called");
+                checkSeamAfter(r, what);
+                continue;
+            }
+            List<byte[]> sent = handedOver(r.name);
+            List<Integer> sentInts = new ArrayList<>();
+            for (int k = 0; k < sent.size(); k++) {
+                if (sent.get(k) != null && sent.get(k).length == 0) sentInts.add(FakePernix.intArg(r.name, 0, k));
+            }
+            check(r, what, sentInts.equals(ints), "ints " + sentInts + " reached the library, " + ints + " expected");
+            int from = 0;
+            for (int t = 0; t < texts.size(); t++) {
+                byte[] e = texts.get(t);
+                int found = -1;
+                for (int k = from; k < sent.size() && found < 0; k++) {
+                    byte[] b = sent.get(k);
+                    int length = !isText.get(t) ? e.length : r.limit > 0 ? r.limit - 1 : b == null ? 0 : b.length - 1;
+                    if (length > 0 && holds(b, e, length)) found = k;
+                }
+                check(r, what, found >= 0, (isText.get(t) ? "String " + (char) e[0] : "session") + " not found after argument " + from);
+                if (found >= 0) from = found + 1;
+            }
+            checkSeamAfter(r, what);
         }
         done();
     }
@@ -477,6 +571,28 @@ public class FrameTableTest extends BridgeTest {
                               + ", non-zero again at " + rest + ")");
                     }
                     checkSeamAfter(r, what);
+                    // The int, short or String declared last before the null member is still read.
+                    Field g = null;
+                    for (Field h : types[p].getFields()) {
+                        if (h.equals(f)) break;
+                        Class<?> ht = h.getType();
+                        if (!Modifier.isStatic(h.getModifiers()) && (ht == int.class || ht == short.class || ht == String.class)) g = h;
+                    }
+                    if (g != null) {
+                        Class<?> gt = g.getType();
+                        Object changed = filled(types[p], null);
+                        f.set(changed, null);
+                        if (gt == int.class) g.setInt(changed, 0x06060606);
+                        else if (gt == short.class) g.setShort(changed, (short) 0x0606);
+                        else g.set(changed, "bbc");
+                        args[p] = changed;
+                        invokeWith(r, args);
+                        List<byte[]> again = handedOver(r.name);
+                        boolean differs = again.size() != sent.size();
+                        for (int i = 0; !differs && i < sent.size(); i++) differs = !Arrays.equals(again.get(i), sent.get(i));
+                        check(r, what, differs, g.getName() + ", declared before it, was not read");
+                        checkSeamAfter(r, what);
+                    }
                 }
             }
         }
@@ -515,6 +631,8 @@ public class FrameTableTest extends BridgeTest {
                 String what = "library result " + rc;
                 FakePernix.reset();
                 FakePernix.willReturn(r.name, rc);
+                // Outputs the library stores before it fails are not answered.
+                for (int k = 0; k < 12; k++) FakePernix.willWrite(r.name, k, new byte[] {7, 0, 0, 0});
                 long before = FakePernix.flushes();
                 Outcome o = invoke(r, -1);
                 if (rc == 256) check(r, what, o.thrown == null && failedResult(r, o.result), describe(o));

@@ -3,7 +3,6 @@ package kxtest;
 import static org.junit.Assert.assertArrayEquals;
 import static org.junit.Assert.assertEquals;
 import static org.junit.Assert.assertNotNull;
-import static org.junit.Assert.assertNull;
 import static org.junit.Assert.assertSame;
 
 import orvane.str.diskarray.*;
@@ -12,75 +11,6 @@ import org.junit.Test;
 /** Host groups: names, delete and reset selections, host-connection options and their parameter tables. */
 public class HostGroupTest extends BridgeTest {
     static final KXSessionInfo S = SessionTest.session(21);
-
-    interface UnitCall {
-        Object run(String unit) throws Throwable;
-    }
-
-    static Object[] row(String fn, UnitCall call, Object... args) {
-        Object[] r = new Object[args.length + 2];
-        r[0] = fn;
-        r[1] = call;
-        System.arraycopy(args, 0, r, 2, args.length);
-        return r;
-    }
-
-    /** Every native of the family: its library function, a call, and what follows the unit (S, ints). */
-    Object[][] natives() {
-        return new Object[][] {
-            row("KX_GetHGList", u -> jni.KX_GetHGList(u, S), S),
-            row("KX_CreateHG", u -> { jni.KX_CreateHG(u, S, 1, -2, 127, new HGConfig()); return null; }, S, 1, -2, 127),
-            row("KX_ChangeHG", u -> { jni.KX_ChangeHG(u, S, 0, 3, 5, new HGConfig()); return null; }, S, 0, 3, 5),
-            row("KX_DeleteHGList", u -> { jni.KX_DeleteHGList(u, S, new DeleteHGList()); return null; }, S),
-            row("KX_InitHGList", u -> { jni.KX_InitHGList(u, S, new InitHGList()); return null; }, S),
-            row("KX_GetHGOption", u -> jni.KX_GetHGOption(u, S, 1, 2, 254), S, 1, 2, 254),
-            row("KX_SetHGOption", u -> { jni.KX_SetHGOption(u, S, -1, 0, 9, new HGOptionInfo()); return null; },
-                S, -1, 0, 9),
-            row("KX_GetHGOptionAll", u -> jni.KX_GetHGOptionAll(u, S), S),
-            row("KX_SetHGOptionAll", u -> { jni.KX_SetHGOptionAll(u, S, new HGOption()); return null; }, S),
-            row("KX_GetHGParameterID", u -> jni.KX_GetHGParameterID(u, S, 0x10002), S, 0x10002),
-            row("KX_GetHGParameterList", u -> jni.KX_GetHGParameterList(u, S), S),
-            row("KX_GetLuMappingListAll", u -> jni.KX_GetLuMappingListAll(u, S), S),
-            row("KX_SetLuMappingListAll", u -> { jni.KX_SetLuMappingListAll(u, S, new LuMapping()); return null; }, S),
-            row("KX_GetLuMappingList", u -> jni.KX_GetLuMappingList(u, S, 1, 3, 200), S, 1, 3, 200),
-            row("KX_SetLuMappingList", u -> { jni.KX_SetLuMappingList(u, S, 0, 1, 2, -3, new LuMappingHGInfo()); return null; },
-                S, 0, 1, 2, -3),
-            row("KX_ChangeMappingMode", u -> { jni.KX_ChangeMappingMode(u, S, -7); return null; }, S, -7),
-            row("KX_GetMappingGuardList", u -> jni.KX_GetMappingGuardList(u, S), S),
-            row("KX_SetMappingGuardList", u -> { jni.KX_SetMappingGuardList(u, S, new MappingGuardList()); return null; }, S),
-        };
-    }
-
-    @Test
-    public void everyNativePassesUnitSessionAndIntsInOrder() throws Throwable {
-        for (Object[] r : natives()) {
-            String fn = (String) r[0];
-            UnitCall call = (UnitCall) r[1];
-            FakePernix.reset();
-            Object got = call.run("unit-" + fn);
-            assertEquals(fn, 1, FakePernix.calls(fn));
-            assertCString("unit-" + fn, 65, FakePernix.arg(fn, 0, 0));
-            for (int i = 2; i < r.length; i++) {
-                if (r[i] == S) assertArrayEquals(fn, S.session_id, FakePernix.arg(fn, 0, i - 1));
-                else assertEquals(fn, r[i], FakePernix.intArg(fn, 0, i - 1));
-            }
-            if (fn.startsWith("KX_Get")) assertNotNull(fn, got);
-            // KX_GetLuMappingList answers its pair in a frame of its own; the
-            // others keep the common one.
-            if (!fn.equals("KX_GetLuMappingList")) continue;
-
-            assertEquals(fn, 258, code(() -> call.run(null)));
-            assertEquals(fn, 1, FakePernix.calls(fn));
-            assertEquals(fn, 0, FakePernix.liveBlocks());
-
-            FakePernix.willReturn(fn, -77);
-            assertEquals(fn, -77, code(() -> call.run("u")));
-            FakePernix.willReturn(fn, 256);
-            assertNull(fn, call.run("u"));
-            assertEquals(fn, 0, FakePernix.liveBlocks());
-            assertEachAllocationFailureReported(() -> call.run("u"));
-        }
-    }
 
     // ---- names
 

@@ -27,19 +27,12 @@ public class HostPortLuGuardTest extends BridgeTest {
     }
 
     @Test
-    public void accessLevelRetentionAndLockPassThrough() {
+    public void accessLevelTravelsAsItsThreeInts() {
         LuAccessLevel level = new LuAccessLevel();
         level.lu = 4095;
         level.access_level = 3;
         level.retention_term = -1;
         jni.KX_SetLuAccessLevel("array-g", S, level);
         assertArrayEquals(Rec.of(12).i32(0, 4095).i32(4, 3).i32(8, -1).bytes(), FakePernix.arg("KX_SetLuAccessLevel", 0, 2));
-        assertArrayEquals(S.session_id, FakePernix.arg("KX_SetLuAccessLevel", 0, 1));
-
-        jni.KX_ExtendRetentionTerm("array-g", S, 17, 365);
-        jni.KX_SetExpirationLock("array-g", S, 1);
-        assertArrayEquals(new int[] {17, 365, 1}, new int[] {FakePernix.intArg("KX_ExtendRetentionTerm", 0, 2),
-            FakePernix.intArg("KX_ExtendRetentionTerm", 0, 3), FakePernix.intArg("KX_SetExpirationLock", 0, 2)});
-        assertCString("array-g", 65, FakePernix.arg("KX_SetExpirationLock", 0, 0));
     }
 }

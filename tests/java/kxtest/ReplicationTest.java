@@ -4,11 +4,9 @@ import static kxtest.RaidGroupTest.S;
 import static kxtest.RaidGroupTest.assertFields;
 import static kxtest.RaidGroupTest.fill;
 import static kxtest.RaidGroupTest.put;
-import static kxtest.RaidGroupTest.row;
 import static org.junit.Assert.assertArrayEquals;
 import static org.junit.Assert.assertEquals;
 
-import kxtest.RaidGroupTest.UnitCall;
 import orvane.str.diskarray.*;
 import org.junit.Test;
 
@@ -31,56 +29,6 @@ public class ReplicationTest extends BridgeTest {
         "cycle_time"};
     static final String[] CMD_DEV = {"cmd_valid", "set_valid", "cmd_lu", "rm_security"};
     static final String[] DMLU = {"dmlu_valid", "set_valid", "dmlu_lu"};
-
-    /** Every native of copy pairs and migration, with what follows the unit name in the library call. */
-    Object[][] natives() {
-        return new Object[][] {
-            row("KX_GetPairInformation", u -> jni.KX_GetPairInformation(u, S), S),
-            row("KX_GetMirrexInformation", u -> jni.KX_GetMirrexInformation(u)),
-            row("KX_SplitMirrexPair", u -> jni.KX_SplitMirrexPair(u, -31), -31),
-            row("KX_GetFarsyncPairInformation", u -> jni.KX_GetFarsyncPairInformation(u, S), S),
-            row("KX_GetFarsyncAsyncPairInformation", u -> jni.KX_GetFarsyncAsyncPairInformation(u, S), S),
-            row("KX_GetFarsyncAsyncOption", u -> jni.KX_GetFarsyncAsyncOption(u, S), S),
-            row("KX_SetFarsyncAsyncOption", u -> jni.KX_SetFarsyncAsyncOption(u, S, new FarsyncAsyncOption()), S),
-            row("KX_GetCommandDevice", u -> jni.KX_GetCommandDevice(u, S), S),
-            row("KX_SetCommandDevice", u -> jni.KX_SetCommandDevice(u, S, new CommandDevice()), S),
-            row("KX_GetDMLU", u -> jni.KX_GetDMLU(u, S), S),
-            row("KX_SetDMLU", u -> jni.KX_SetDMLU(u, S, new DMLUInformation()), S),
-            row("KX_GetCouplingInfo", u -> jni.KX_GetCouplingInfo(u, S), S),
-            row("KX_GetRemoteDeviceInformation", u -> jni.KX_GetRemoteDeviceInformation(u, S), S),
-            row("KX_SetRemoteDeviceInformation",
-                u -> jni.KX_SetRemoteDeviceInformation(u, S, new RemoteDeviceInformation()), S),
-            row("KX_SetSvolDisableMode", u -> jni.KX_SetSvolDisableMode(u, S, 3, -4), S, 3, -4),
-            row("KX_AddLuMigrationReserveLU", u -> jni.KX_AddLuMigrationReserveLU(u, S, new LuMigrationReserveLU()), S),
-            row("KX_DeleteLuMigrationReserveLU",
-                u -> jni.KX_DeleteLuMigrationReserveLU(u, S, new LuMigrationReserveLU()), S),
-            row("KX_StartLuMigration", u -> jni.KX_StartLuMigration(u, S, new RequestLuMigration()), S),
-            row("KX_CancelLuMigration", u -> jni.KX_CancelLuMigration(u, S, new RequestLuMigration()), S),
-            row("KX_SplitLuMigration", u -> jni.KX_SplitLuMigration(u, S, new RequestLuMigration()), S),
-            row("KX_SplitLuMigrationFreeOwner",
-                u -> jni.KX_SplitLuMigrationFreeOwner(u, S, new RequestLuMigration()), S),
-            row("KX_ChangeCopyPace", u -> jni.KX_ChangeCopyPace(u, S, new RequestLuMigration()), S),
-            row("KX_GetLuMigrationState", u -> jni.KX_GetLuMigrationState(u, S), S),
-            row("KX_GetLuMigrationInformation", u -> jni.KX_GetLuMigrationInformation(u, S), S),
-        };
-    }
-
-    @Test
-    public void everyNativePassesItsArgumentsInOrder() throws Throwable {
-        for (Object[] r : natives()) {
-            String fn = (String) r[0];
-            UnitCall call = (UnitCall) r[1];
-            FakePernix.reset();
-            String unit = fn + "-" + repeat('u', 80);  // cut to 64 bytes in its 65-byte buffer
-            call.run(unit);
-            assertEquals(fn, 1, FakePernix.calls(fn));
-            assertCString(unit, 65, FakePernix.arg(fn, 0, 0));
-            for (int i = 2; i < r.length; i++) {
-                if (r[i] == S) assertArrayEquals(fn, S.session_id, FakePernix.arg(fn, 0, i - 1));
-                else assertEquals(fn, r[i], FakePernix.intArg(fn, 0, i - 1));
-            }
-        }
-    }
 
     @Test
     public void pairInformationAlwaysHasEveryLuAndEveryMirror() {

@@ -65,7 +65,6 @@ public class UnitConditionTest extends BridgeTest {
         FakePernix.willWrite("KX_GetUnitCondition", 3, condition());
         UnitCondition c = jni.KX_GetUnitCondition(repeat('x', 70), SessionTest.session(3), -42);
         assertCString(repeat('x', 70), 65, FakePernix.arg("KX_GetUnitCondition", 0, 0));
-        assertArrayEquals(SessionTest.session(3).session_id, FakePernix.arg("KX_GetUnitCondition", 0, 1));
         assertEquals(-42, FakePernix.intArg("KX_GetUnitCondition", 0, 2));
         assertArrayEquals(new byte[1536], FakePernix.arg("KX_GetUnitCondition", 0, 3));
 
