@@ -74,11 +74,10 @@ MUTANTS = [
 #           caller can see it.
 #   R3      the graph request's linked array is its last field and a linked
 #           request's status is not looked at: nothing changes.
-#   C2, C3, C4, G1, E4  seen only when a record class lacks a field (a nested
-#           class, or a field that is not the last): the variant suites'
-#           business (writer-last-checked covers only last fields of results).
-#   A3      seen only when the snapshot classes cannot be found: the
-#           missing-classes variant does not cover the performance family.
+#   C2, C4, E4  seen only when a record class lacks a field whose failure
+#           another broken class of the same result masks in the variant sets
+#           (every class broken at once; a native stops at the first).
+#   (C3, G1 and A3 are caught by the derived variant sets.)
 
 def sh(cmd, log):
     with open(log, "w") as f:

@@ -253,14 +253,22 @@ public class FrameTableTest extends BridgeTest {
 
     /** A value of type t with every field set to non-zero data (arrays at their constructed length, or 2). */
     static Object filled(Class<?> t, Object current) throws ReflectiveOperationException {
+        return filled(t, current, 2, null);
+    }
+
+    /**
+     * The same, primitive arrays a class leaves unmade made `tables` long, and
+     * members of class `skip` left as the class makes them.
+     */
+    static Object filled(Class<?> t, Object current, int tables, String skip) throws ReflectiveOperationException {
         if (t == String.class) return "abc";
         if (t.isArray()) {
-            Object a = current != null ? current : Array.newInstance(t.getComponentType(), 2);
             Class<?> e = t.getComponentType();
+            Object a = current != null ? current : Array.newInstance(e, e.isPrimitive() ? tables : 2);
             for (int i = 0; i < Array.getLength(a); i++) {
                 if (e == int.class) Array.setInt(a, i, 0x05050505);
                 else if (e == byte.class) Array.setByte(a, i, (byte) 7);
-                else if (!e.isPrimitive()) Array.set(a, i, filled(e, Array.get(a, i)));
+                else if (!e.isPrimitive()) Array.set(a, i, filled(e, Array.get(a, i), tables, skip));
             }
             return a;
         }
@@ -271,7 +279,9 @@ public class FrameTableTest extends BridgeTest {
             if (Modifier.isStatic(f.getModifiers())) continue;
             if (f.getType() == int.class) f.setInt(o, 0x05050505);
             else if (f.getType() == short.class) f.setShort(o, (short) 0x0505);
-            else if (!f.getType().isPrimitive()) f.set(o, filled(f.getType(), f.get(o)));
+            else if (!f.getType().isPrimitive() && !f.getType().getName().equals(skip)) {
+                f.set(o, filled(f.getType(), f.get(o), tables, skip));
+            }
         }
         return o;
     }

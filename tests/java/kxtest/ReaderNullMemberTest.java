@@ -100,35 +100,11 @@ public class ReaderNullMemberTest extends BridgeTest {
     static final int TABLE = 4096;
 
     /**
-     * A value of type t with every field set to non-zero data, as the frame
-     * table fills one, but primitive arrays a class leaves unmade made as long
-     * as any table a record holds.
+     * A value of type t filled as the frame table fills one, but primitive
+     * arrays a class leaves unmade made as long as any table a record holds.
      */
     static Object filled(Class<?> t, Object current) throws ReflectiveOperationException {
-        if (t == String.class) return "abc";
-        if (t.isArray()) {
-            Class<?> e = t.getComponentType();
-            Object a = current != null ? current : Array.newInstance(e, e.isPrimitive() ? TABLE : 2);
-            for (int i = 0; i < Array.getLength(a); i++) {
-                if (e == int.class) Array.setInt(a, i, 0x05050505);
-                else if (e == short.class) Array.setShort(a, i, (short) 0x0505);
-                else if (e == byte.class) Array.setByte(a, i, (byte) 7);
-                else if (!e.isPrimitive()) Array.set(a, i, filled(e, Array.get(a, i)));
-            }
-            return a;
-        }
-        if (!FrameTableTest.isRecord(t)) return current;
-        Object o = current != null ? current : VariantTable.plain(t);
-        if (o == null) return null;
-        for (Field f : t.getFields()) {
-            if (Modifier.isStatic(f.getModifiers())) continue;
-            if (f.getType() == int.class) f.setInt(o, 0x05050505);
-            else if (f.getType() == short.class) f.setShort(o, (short) 0x0505);
-            else if (!f.getType().isPrimitive() && !f.getType().getName().equals(SNAPSHOT)) {
-                f.set(o, filled(f.getType(), f.get(o)));
-            }
-        }
-        return o;
+        return FrameTableTest.filled(t, current, TABLE, SNAPSHOT);
     }
 
     /** A new value shaped as v (same classes, array lengths and members) with every number 0 and every String "". */
