@@ -3,7 +3,7 @@ package kxbench;
 /**
  * The benchmark's reference: the same trees built, and the same input record
  * read, by hand-written JNI code that looks every class, constructor and field
- * up once per call (tests/probe/handmade.cpp, in the test-only probe library).
+ * up once per call (bench/handmade.cpp, in the test-only probe library).
  * lax: builders without the fflush before each record, a reader that uses the
  * first element's field IDs for every element.
  */
