@@ -44,7 +44,7 @@ MUTANTS = [
  ("A5", "host/host_groups.cpp", "    LocalRef<jobject> table(env, write_record(env, rec::LuMappingHGInfo, &lu));\n    if (!table) return nullptr;", "    LocalRef<jobject> table(env, write_record(env, rec::LuMappingHGInfo, &lu));\n    if (!table) { code = kMarshal; return nullptr; }", "groups: LU mapping table failure reported"),
  ("W1", "account/login.cpp", "Out(rec::AlertCheckUser, true)", "Out(rec::AlertCheckUser)", "account: alert-check user not wiped"),
  ("W2", "host/iscsi.cpp", "Secret(port, rec::KXiSCSICHAPUserPortInfo)", "In(port, rec::KXiSCSICHAPUserPortInfo)", "iSCSI: CHAP port info not wiped"),
- ("W3", "core/memory.cpp", "for (std::size_t i = 0; i < bytes; ++i) p[i] = 0;", "for (std::size_t i = 0; i + 1 < bytes; ++i) p[i] = 0;", "core: wipe misses the last byte"),
+ ("W3", "core/memory.cpp", "    std::memset(block, 0, bytes);\n", "    std::memset(block, 0, bytes - 1);\n", "core: wipe misses the last byte"),
  ("S1", "include/host.h", "typedef struct FibreInformationSecurityRec {\n  int8_t access_guard;\n  int8_t all_lun_security;", "typedef struct FibreInformationSecurityRec {\n  int8_t access_guard;\n  uint8_t all_lun_security;", "fibre: all_lun_security zero-extended"),
  ("S2", "include/raid.h", "  int8_t board_type;\n  uint8_t rate;", "  uint8_t board_type;\n  uint8_t rate;", "wizard: board_type zero-extended"),
  ("S3", "perf/kinds.h", "static constexpr size_t kLimit = 4;", "static constexpr size_t kLimit = 5;", "perf: short path copy limit 5"),
