@@ -73,6 +73,7 @@ MUTANTS = [
  ("N5", "replication/pairs.cpp", "call(env, KX_SetDMLU, Unit(unit)", "call(env, KX_SetDMLU, UnitUnchecked(unit)", "replication: SetDMLU no longer refuses a null unit"),
  ("F7", "replication/pairs.cpp", "call(env, KX_SplitMirrexPair,", "call(env, kNoFlush, KX_SplitMirrexPair,", "replication: SplitMirrexPair no longer flushes"),
  ("F8", "firmware/enclosure.cpp", "call(env, KX_CancelENCMicroFileConcat);", "call(env, kNoFlush, KX_CancelENCMicroFileConcat);", "firmware: CancelENCMicroFileConcat no longer flushes"),
+ ("A6", "core/record.cpp", "  if (arr == nullptr) w.clean = false;\n  return arr;", "  return arr;", "core: a record array the JVM could not make leaves its error unseen"),
  ("C8", "firmware/records.h", "KX_STRING(vendor), KX_STRING(product), KX_STRING(rom_micro)", "KX_STRING(vendor), KX_CHECKED(KX_STRING(product)), KX_STRING(rom_micro)", "firmware: BootOption's product (not its last String) checked"),
  ("E6", "firmware/records.h", "KX_INT(startup_attr), KX_INT(data_share),", "KX_INT(data_share), KX_INT(startup_attr),", "firmware: BootOption reads data_share before startup_attr"),
  ("E7", "session/records.h", "          KX_STRING(unit_name),\n          KX_STRING(group_name),", "          KX_STRING(group_name),\n          KX_STRING(unit_name),", "session: KXUnitParam reads group_name before unit_name"),
