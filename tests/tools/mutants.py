@@ -91,6 +91,9 @@ MUTANTS = [
 #   E4      two ints of a result record set in another order: the object is
 #           whole either way, and a missing field drops it or not by its own
 #           kind (the order of a reader is another matter: E5-E7).
+#   A6      every record array a description holds is a field whose failure
+#           drops its object, so the walker stops there whatever it believes
+#           of the pending error (kept: a later unchecked array would show it).
 #   (C3, G1 and A3 are caught by the derived variant sets; C8, E6 and E7 only
 #   by the missing-field test.)
 

@@ -109,16 +109,6 @@ public class AbsentFieldTest extends BridgeTest {
         if (!problems.isEmpty()) fail(problems.size() + " problem(s):\n" + String.join("\n", problems));
     }
 
-    /** Blocks left or released wrongly by the last call, as problems; the double is reset. */
-    static List<String> seamFaults(String what) {
-        int live = FakePernix.liveBlocks();
-        FakePernix.reset();
-        String faults = FakePernix.takeFaults();
-        List<String> out = new ArrayList<>();
-        if (live != 0 || !faults.isEmpty()) out.add(what + ": " + live + " live block(s); " + faults.trim());
-        return out;
-    }
-
     // ------------------------------------------------------------ readers
 
     /** Every (class, field) of the record values, in the order a reader meets them first. */

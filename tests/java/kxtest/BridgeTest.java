@@ -6,6 +6,8 @@ import static org.junit.Assert.assertTrue;
 import static org.junit.Assert.fail;
 
 import java.nio.charset.StandardCharsets;
+import java.util.ArrayList;
+import java.util.List;
 import orvane.str.diskarray.DiskArrayUtilityJNI;
 import org.junit.After;
 import org.junit.Assume;
@@ -31,6 +33,16 @@ public abstract class BridgeTest {
         FakePernix.reset();  // a live block becomes a fault
         assertEquals("release faults", "", FakePernix.takeFaults());
         assertEquals("blocks not released", 0, live);
+    }
+
+    /** Blocks the last call left or released wrongly, as problems of `what`; the double is reset. */
+    static List<String> seamFaults(String what) {
+        int live = FakePernix.liveBlocks();
+        FakePernix.reset();
+        String faults = FakePernix.takeFaults();
+        List<String> out = new ArrayList<>();
+        if (live != 0 || !faults.isEmpty()) out.add(what + ": " + live + " live block(s); " + faults.trim());
+        return out;
     }
 
     /** A body that may throw anything. */

@@ -315,10 +315,7 @@ public class FrameTableTest extends BridgeTest {
 
     /** Faults and leaks of the run just made; resets the double. */
     void checkSeamAfter(Row r, String what) {
-        int live = FakePernix.liveBlocks();
-        FakePernix.reset();
-        String faults = FakePernix.takeFaults();
-        check(r, what, live == 0 && faults.isEmpty(), live + " live block(s); faults: " + faults.trim());
+        problems.addAll(seamFaults(r + ": " + what));
     }
 
     void checkCalled(Row r, String what, boolean once) {

@@ -198,11 +198,8 @@ public class ReaderNullMemberTest extends BridgeTest {
             jvmError = FrameTableTest.codeOf(e.getCause()) == null;
         }
         List<byte[]> sent = handedOver(r.name);
-        int live = FakePernix.liveBlocks();
-        FakePernix.reset();
-        String faults = FakePernix.takeFaults();
-        if (live != 0 || !faults.isEmpty()) problems.add(r + ": " + what + ": " + live + " live block(s); " + faults.trim());
-        return FakePernix.calls(r.name) == 0 && sent.isEmpty() ? null : sent;
+        problems.addAll(seamFaults(r + ": " + what));
+        return sent.isEmpty() ? null : sent;  // the double's calls are reset by now
     }
 
     /**

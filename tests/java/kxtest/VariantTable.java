@@ -57,6 +57,37 @@ public abstract class VariantTable extends BridgeTest {
         return false;
     }
 
+    /** Whether o is the outcome of an expect.tsv line (see above). */
+    static boolean answers(String expected, FrameTableTest.Outcome o) throws IllegalAccessException {
+        Integer code = FrameTableTest.codeOf(o.thrown);
+        if (expected.matches("-?\\d+")) return Integer.valueOf(expected).equals(code);
+        if (expected.equals("null")) return o.thrown == null && o.result == null;
+        if (expected.equals("partial")) return o.thrown == null && o.result != null;
+        if (expected.equals("full")) return o.thrown == null && !hasNull(o.result, new IdentityHashMap<>());
+        return o.thrown != null && o.thrown.getClass().getSimpleName().equals(expected);
+    }
+
+    /** The lines of a variant's expect.tsv, each split into its words (native, outcome), comments left out. */
+    static List<String[]> expectations(String variant) throws java.io.IOException {
+        List<String[]> out = new ArrayList<>();
+        Path file = Paths.get(System.getProperty("kx.tests", "tests")).resolve("java").resolve("variants")
+            .resolve(variant).resolve("expect.tsv");
+        for (String line : Files.readAllLines(file)) {
+            String[] t = line.replaceAll("#.*", "").trim().split("\\s+");
+            if (!t[0].isEmpty()) out.add(t);
+        }
+        return out;
+    }
+
+    /** The natives of DiskArrayUtilityJNI by name. */
+    static Map<String, Method> natives() {
+        Map<String, Method> natives = new TreeMap<>();
+        for (Method m : DiskArrayUtilityJNI.class.getDeclaredMethods()) {
+            if (Modifier.isNative(m.getModifiers())) natives.put(m.getName(), m);
+        }
+        return natives;
+    }
+
     static Object plain(Class<?> t) {
         try {
             if (t.isPrimitive()) return Array.get(Array.newInstance(t, 1), 0);
@@ -66,10 +97,6 @@ public abstract class VariantTable extends BridgeTest {
         } catch (ReflectiveOperationException | LinkageError e) {
             return null;  // a class of the variant that cannot be made
         }
-    }
-
-    Path folder() {
-        return Paths.get(System.getProperty("kx.tests", "tests")).resolve("java").resolve("variants").resolve(variant);
     }
 
     /** Classes of the variant reachable from type t through its fields' declared types. */
@@ -87,10 +114,7 @@ public abstract class VariantTable extends BridgeTest {
     @Test
     public void everyNativeWhoseResultHoldsAClassOfTheVariantHasALine() throws Exception {
         Set<String> listed = new TreeSet<>();
-        for (String line : Files.readAllLines(folder().resolve("expect.tsv"))) {
-            String[] t = line.replaceAll("#.*", "").trim().split("\\s+");
-            if (!t[0].isEmpty()) listed.add(t[0]);
-        }
+        for (String[] t : expectations(variant)) listed.add(t[0]);
         List<String> missing = new ArrayList<>();
         for (Method m : DiskArrayUtilityJNI.class.getDeclaredMethods()) {
             if (!Modifier.isNative(m.getModifiers()) || listed.contains(m.getName())) continue;
@@ -103,19 +127,12 @@ public abstract class VariantTable extends BridgeTest {
 
     @Test
     public void eachNativeAnswersAsTheVariantExpects() throws Exception {
-        Path file = folder().resolve("expect.tsv");
-        Map<String, Method> natives = new TreeMap<>();
-        for (Method m : DiskArrayUtilityJNI.class.getDeclaredMethods()) {
-            if (Modifier.isNative(m.getModifiers())) natives.put(m.getName(), m);
-        }
+        Map<String, Method> natives = natives();
         List<String> problems = new ArrayList<>();
-        for (String line : Files.readAllLines(file)) {
-            int hash = line.indexOf('#');
-            String[] t = (hash >= 0 ? line.substring(0, hash) : line).trim().split("\\s+");
-            if (t[0].isEmpty()) continue;
+        for (String[] t : expectations(variant)) {
             Method m = natives.get(t[0]);
             if (m == null || t.length < 2) {
-                problems.add("bad line: " + line);
+                problems.add("bad line: " + String.join(" ", t));
                 continue;
             }
             Object[] args = new Object[m.getParameterCount()];
@@ -127,20 +144,9 @@ public abstract class VariantTable extends BridgeTest {
             } catch (InvocationTargetException e) {
                 o.thrown = e.getCause();
             }
-            String expected = t[1];
-            Integer code = FrameTableTest.codeOf(o.thrown);
-            boolean ok;
-            if (expected.matches("-?\\d+")) ok = Integer.valueOf(expected).equals(code);
-            else if (expected.equals("null")) ok = o.thrown == null && o.result == null;
-            else if (expected.equals("partial")) ok = o.thrown == null && o.result != null;
-            else if (expected.equals("full")) ok = o.thrown == null && !hasNull(o.result, new IdentityHashMap<>());
-            else ok = o.thrown != null && o.thrown.getClass().getSimpleName().equals(expected);
-            if (!ok) problems.add(t[0] + ": expected " + expected + ", " + FrameTableTest.describe(o));
+            if (!answers(t[1], o)) problems.add(t[0] + ": expected " + t[1] + ", " + FrameTableTest.describe(o));
             if (FakePernix.calls(t[0]) != 1) problems.add(t[0] + ": library called " + FakePernix.calls(t[0]) + " time(s)");
-            int live = FakePernix.liveBlocks();
-            FakePernix.reset();
-            String faults = FakePernix.takeFaults();
-            if (live != 0 || !faults.isEmpty()) problems.add(t[0] + ": " + live + " live block(s); " + faults.trim());
+            problems.addAll(AbsentFieldTest.seamFaults(t[0]));
         }
         if (!problems.isEmpty()) fail(problems.size() + " problem(s):\n" + String.join("\n", problems));
     }
