@@ -112,6 +112,42 @@ bool set_object(JNIEnv* env, jobject obj, jclass cls, const char* name, const ch
   return true;
 }
 
+// The int fields `names` of at most `capacity` elements of arr (the array
+// reference deleted here) into consecutive slots of `stride` bytes at dst;
+// a null element is skipped.  Each element's fields are looked up by its own
+// class when it is not the class seen before (lax: the first element's IDs
+// for all).  False when a field cannot be found.
+template <size_t N>
+bool int_elements(JNIEnv* env, jobjectArray arr, jsize capacity, const char* const (&names)[N], uint8_t* dst,
+                  size_t stride, bool lax) {
+  jsize n = std::min(env->GetArrayLength(arr), capacity);
+  jclass known = nullptr;
+  jfieldID id[N] = {};
+  for (jsize i = 0; i < n; ++i) {
+    jobject e = env->GetObjectArrayElement(arr, i);
+    if (e == nullptr) continue;
+    jclass ec = (lax && known != nullptr) ? nullptr : env->GetObjectClass(e);
+    if (ec != nullptr && (known == nullptr || !env->IsSameObject(ec, known))) {
+      for (size_t k = 0; k < N; ++k) {
+        id[k] = env->GetFieldID(ec, names[k], "I");
+        if (id[k] == nullptr) return false;
+      }
+      if (known != nullptr) env->DeleteLocalRef(known);
+      known = ec;
+    } else if (ec != nullptr) {
+      env->DeleteLocalRef(ec);
+    }
+    for (size_t k = 0; k < N; ++k) {
+      int32_t v = env->GetIntField(e, id[k]);
+      std::memcpy(dst + stride * static_cast<size_t>(i) + 4 * k, &v, 4);
+    }
+    env->DeleteLocalRef(e);
+  }
+  if (known != nullptr) env->DeleteLocalRef(known);
+  env->DeleteLocalRef(arr);
+  return true;
+}
+
 }  // namespace
 
 #define HAND(ret, name) extern "C" JNIEXPORT ret JNICALL Java_kxbench_HandJni_##name
@@ -209,36 +245,7 @@ HAND(jbyteArray, createRaidGroup)(JNIEnv* env, jclass, jobject create, jboolean 
     std::memcpy(rec + 4 * i, &v, 4);
   }
   auto drives = static_cast<jobjectArray>(env->GetObjectField(create, drives_id));
-  if (drives != nullptr) {
-    jsize n = env->GetArrayLength(drives);
-    if (n > 450) n = 450;
-    jclass known = nullptr;
-    jfieldID id[2] = {};
-    for (jsize i = 0; i < n; ++i) {
-      jobject d = env->GetObjectArrayElement(drives, i);
-      if (d == nullptr) continue;
-      // The fields of the element's own class: looked up again when it is
-      // not the class seen before (the lax reader skips the test).
-      jclass dc = (lax && known != nullptr) ? nullptr : env->GetObjectClass(d);
-      if (dc != nullptr && (known == nullptr || !env->IsSameObject(dc, known))) {
-        for (size_t k = 0; k < 2; ++k) {
-          id[k] = env->GetFieldID(dc, kCreateRgDrive[k], "I");
-          if (id[k] == nullptr) return nullptr;
-        }
-        if (known != nullptr) env->DeleteLocalRef(known);
-        known = dc;
-      } else if (dc != nullptr) {
-        env->DeleteLocalRef(dc);
-      }
-      for (size_t k = 0; k < 2; ++k) {
-        int32_t v = env->GetIntField(d, id[k]);
-        std::memcpy(rec + 28 + 8 * static_cast<size_t>(i) + 4 * k, &v, 4);
-      }
-      env->DeleteLocalRef(d);
-    }
-    if (known != nullptr) env->DeleteLocalRef(known);
-    env->DeleteLocalRef(drives);
-  }
+  if (drives != nullptr && !int_elements(env, drives, 450, kCreateRgDrive, rec + 28, 8, lax)) return nullptr;
   jbyteArray out = env->NewByteArray(sizeof rec);
   if (out == nullptr) return nullptr;
   env->SetByteArrayRegion(out, 0, sizeof rec, reinterpret_cast<const jbyte*>(rec));
@@ -710,34 +717,7 @@ HAND(jbyteArray, startLuMigration)(JNIEnv* env, jclass, jobject request, jboolea
   int32_t top[2] = {env->GetIntField(request, count_id), env->GetIntField(request, owner_id)};
   std::memcpy(rec.data, top, sizeof top);
   auto pairs = static_cast<jobjectArray>(env->GetObjectField(request, lu_id));
-  if (pairs != nullptr) {
-    jsize n = env->GetArrayLength(pairs);
-    if (n > 2047) n = 2047;
-    jclass known = nullptr;
-    jfieldID id[3] = {};
-    for (jsize i = 0; i < n; ++i) {
-      jobject p = env->GetObjectArrayElement(pairs, i);
-      if (p == nullptr) continue;
-      jclass pc = (lax && known != nullptr) ? nullptr : env->GetObjectClass(p);
-      if (pc != nullptr && (known == nullptr || !env->IsSameObject(pc, known))) {
-        for (size_t k = 0; k < 3; ++k) {
-          id[k] = env->GetFieldID(pc, kPair[k], "I");
-          if (id[k] == nullptr) return nullptr;
-        }
-        if (known != nullptr) env->DeleteLocalRef(known);
-        known = pc;
-      } else if (pc != nullptr) {
-        env->DeleteLocalRef(pc);
-      }
-      for (size_t k = 0; k < 3; ++k) {
-        int32_t v = env->GetIntField(p, id[k]);
-        std::memcpy(rec.data + 8 + 12 * static_cast<size_t>(i) + 4 * k, &v, 4);
-      }
-      env->DeleteLocalRef(p);
-    }
-    if (known != nullptr) env->DeleteLocalRef(known);
-    env->DeleteLocalRef(pairs);
-  }
+  if (pairs != nullptr && !int_elements(env, pairs, 2047, kPair, rec.data + 8, 12, lax)) return nullptr;
   jbyteArray out = env->NewByteArray(kSize);
   if (out == nullptr) return nullptr;
   env->SetByteArrayRegion(out, 0, kSize, reinterpret_cast<const jbyte*>(rec.data));
