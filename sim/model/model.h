@@ -1,0 +1,31 @@
+// The simulated array's model: its tables, the default array seeded into a
+// new database, and the operations shared by more than one family.  One
+// database is one array; every registered unit whose controller address is
+// the array's reaches it.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "sim/core/store.h"
+#include "sim/model/options.h"
+
+namespace sim {
+
+// Each family creates its tables and seeds its part of the default array.
+void create_core(Db& db, const Options& o);      // units, discovery, audit, faults, settings
+void create_accounts(Db& db, const Options& o);  // roles, accounts, sessions
+void create_storage(Db& db, const Options& o);   // drives, RAID groups, LUs, formatting
+void create_pools(Db& db, const Options& o);     // pools, unified LUs, wizard, LU cache
+
+// Records kept whole: a setter stores the record it was given under a key, its
+// getter reads it back (or finds nothing and leaves its default).
+bool load_setting(Db& db, std::string_view key, void* rec, size_t size);
+void save_setting(Db& db, std::string_view key, const void* rec, size_t size);
+
+// A value of the meta table (array addresses, clock offset, options seeded).
+std::string meta(Db& db, std::string_view key, std::string_view fallback = {});
+void set_meta(Db& db, std::string_view key, std::string_view value);
+
+}  // namespace sim
