@@ -64,6 +64,10 @@ Stmt& Stmt::bind(int64_t v) {
   sqlite3_bind_int64(s_, next_++, v);
   return *this;
 }
+Stmt& Stmt::bind(double v) {
+  sqlite3_bind_double(s_, next_++, v);
+  return *this;
+}
 Stmt& Stmt::bind(std::string_view v) {
   sqlite3_bind_text(s_, next_++, v.data(), static_cast<int>(v.size()), SQLITE_TRANSIENT);
   return *this;

@@ -37,6 +37,7 @@ class Stmt {
 
   Stmt& bind(int v);
   Stmt& bind(int64_t v);
+  Stmt& bind(double v);
   Stmt& bind(std::string_view v);
   Stmt& bind(const char* v) { return bind(std::string_view(v)); }
   Stmt& blob(const void* p, size_t n);
