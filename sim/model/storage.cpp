@@ -249,6 +249,7 @@ RaidGroup plan_raid_group(Db& db, const RgSpec& spec, std::vector<std::pair<int,
   g.largest_free = g.capacity;
   g.first_enclosure = taken.front().enclosure;
   g.first_slot = taken.front().slot;
+  g.smallest_blocks = smallest;
   g.smallest_gb = static_cast<int>(smallest * kBlockBytes / kGB);
   g.rg_type = spec.rg_type;
   if (chosen) {
@@ -309,7 +310,8 @@ RaidGroup read_group(Db& db, const Stmt& s) {
   g.used = s.i64(7);
   g.first_enclosure = s.is_null(8) ? -1 : s.i(8);
   g.first_slot = s.is_null(9) ? -1 : s.i(9);
-  g.smallest_gb = static_cast<int>(s.i64(10) * kBlockBytes / kGB);
+  g.smallest_blocks = s.i64(10);
+  g.smallest_gb = static_cast<int>(g.smallest_blocks * kBlockBytes / kGB);
   for (const auto& a : rg_areas(db, g.number))
     if (a.lun < 0) g.largest_free = std::max(g.largest_free, a.size);
   return g;
@@ -338,6 +340,59 @@ std::vector<RaidGroup> raid_groups(Db& db) {
   auto s = db.sql(q.c_str());
   while (s.step()) all.push_back(read_group(db, s));
   return all;
+}
+
+RaidGroup expand_raid_group(Db& db, int number, const std::vector<std::pair<int, int>>& add) {
+  auto g = find_raid_group(db, number);
+  if (!g) fail(kNoSuchObject, "no RAID group " + std::to_string(number));
+  if (g->level == 1) fail(kBadParameter, "a RAID1 group cannot grow");
+  if (add.empty()) fail(kBadParameter, "no drives to add");
+  if (rg_spun_down(db, number)) fail(kBusy, "the drives of RAID group " + std::to_string(number) + " are spun down");
+  int total = g->per_group * g->groups + static_cast<int>(add.size());
+  if (total > kMaxDrives) fail(kBadParameter, "a RAID group holds at most 450 drives");
+  int per_group = g->per_group, groups = g->groups;
+  if (groups == 1) {
+    per_group = total;
+  } else {
+    if (add.size() % static_cast<size_t>(per_group) != 0)
+      fail(kBadParameter, "add whole parity groups of " + std::to_string(per_group) + " drives");
+    groups = total / per_group;
+  }
+  int data = data_drives(g->level, per_group, groups);
+  if (data < 0) fail(kBadParameter, "RAID" + std::to_string(g->level) + " cannot be made of that many drives");
+  auto kind = db.sql("SELECT kind FROM drives WHERE rg=?1 LIMIT 1");
+  kind.bind(number);
+  int group_kind = kind.step() ? kind.i(0) : -1;
+  std::set<std::pair<int, int>> seen;
+  int k = g->per_group * g->groups;
+  for (auto [e, sl] : add) {
+    if (e < 0 || e >= kMaxEnclosures || sl < 0 || sl >= kEnclosureSlots)
+      fail(kBadParameter, "no drive position " + pos(e, sl));
+    if (!seen.insert({e, sl}).second) fail(kBadParameter, "drive " + pos(e, sl) + " named twice");
+    auto d = find_drive(db, e, sl);
+    if (!d) fail(kNoSuchObject, "no drive mounted at " + pos(e, sl));
+    if (d->rg >= 0) fail(kBusy, "drive " + pos(e, sl) + " belongs to RAID group " + std::to_string(d->rg));
+    if (d->state != "normal") fail(kBusy, "drive " + pos(e, sl) + " is " + d->state);
+    if (group_kind >= 0 && d->kind != group_kind) fail(kBadParameter, "drive " + pos(e, sl) + " is of another type");
+    if (d->blocks < g->drive_blocks) fail(kBadParameter, "drive " + pos(e, sl) + " is smaller than the group's drives");
+    auto u = db.sql("UPDATE drives SET rg=?1, rg_pos=?2 WHERE enclosure=?3 AND slot=?4");
+    u.bind(number).bind(k++).bind(e).bind(sl).run();
+  }
+  auto u = db.sql("UPDATE raid_groups SET per_group=?1, groups=?2, capacity=?3 WHERE number=?4");
+  u.bind(per_group).bind(groups).bind(data * g->drive_blocks).bind(number).run();
+  return *find_raid_group(db, number);
+}
+
+bool rg_spun_down(Db& db, int number) {
+  auto s = db.sql("SELECT 1 FROM drives WHERE rg=?1 AND state='spun-down' LIMIT 1");
+  s.bind(number);
+  return s.step();
+}
+
+bool lu_formatting(Db& db, int64_t now, int lun) {
+  auto s = db.sql("SELECT 1 FROM jobs WHERE lun=?1 AND kind IN ('format','quick') AND finish>?2 LIMIT 1");
+  s.bind(lun).bind(now);
+  return s.step();
 }
 
 void delete_raid_group(Db& db, int number) {

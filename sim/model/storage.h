@@ -58,7 +58,8 @@ struct RaidGroup {
   int64_t used = 0;               // blocks held by LUs
   int64_t largest_free = 0;       // the largest free area
   int first_enclosure = -1, first_slot = -1;
-  int smallest_gb = 0;            // the smallest drive of the group, GB
+  int64_t smallest_blocks = 0;    // the smallest drive of the group
+  int smallest_gb = 0;            // the same in GB
   int rg_type = 0;
 };
 
@@ -109,8 +110,12 @@ RaidGroup plan_raid_group(Db& db, const RgSpec& spec, std::vector<std::pair<int,
 RaidGroup create_raid_group(Db& db, const RgSpec& spec);
 std::optional<RaidGroup> find_raid_group(Db& db, int number);
 std::vector<RaidGroup> raid_groups(Db& db);
+// Adds drives to a group: its capacity grows at the end (a new free area).
+RaidGroup expand_raid_group(Db& db, int number, const std::vector<std::pair<int, int>>& drives);
 // Refused while the group holds LUs (kBusy).
 void delete_raid_group(Db& db, int number);
+// True when the group's drives are spun down.
+bool rg_spun_down(Db& db, int number);
 // Free and used extents of a group in address order (kNoSuchObject).
 std::vector<Area> rg_areas(Db& db, int number);
 
@@ -121,6 +126,25 @@ void delete_lu(Db& db, int lun);
 bool lu_exists(Db& db, int lun);
 // Grows an LU into the free area right after it (kCapacity when too small).
 void expand_lu(Db& db, int lun, int64_t add_blocks);
+
+// Work on LUs: a job's progress is a function of the clock only.
+enum JobStatus { kJobNone = 0, kJobWaiting = 1, kJobRunning = 2, kJobDone = 3 };
+struct JobState {
+  int status = kJobNone;
+  int percent = 0;
+};
+inline JobState job_state(int64_t now, int64_t start, int64_t finish) {
+  if (now < start) return {kJobWaiting, 0};
+  if (now >= finish || finish <= start) return {kJobDone, 100};
+  return {kJobRunning, static_cast<int>((now - start) * 100 / (finish - start))};
+}
+// Blocks per second of each kind of work.
+constexpr int64_t kFormatRate = 1000000000 / kBlockBytes;         // full format: 1 GB/s
+constexpr int64_t kQuickFormatRate = 10000000000 / kBlockBytes;   // quick format: 10 GB/s
+constexpr int64_t kParityRate = 2000000000 / kBlockBytes;         // parity correction: 2 GB/s
+constexpr int64_t kRebuildRate = 1000000000 / kBlockBytes;        // drive rebuild: 1 GB/s
+// True while a full or quick format of the LU is entered and not finished.
+bool lu_formatting(Db& db, int64_t now, int lun);
 
 // Another family marks an LU as its own (a pool member, a mapped LU); a held
 // LU cannot be deleted, renumbered or invalidated.

@@ -1,0 +1,300 @@
+// Logical units: the list and single reads, creation, deletion, expansion,
+// invalidation and restoration, renumbering, controller and staging changes,
+// and the block-to-byte conversion.  Sizes are blocks of 512 bytes.
+#include <algorithm>
+#include <climits>
+#include <cstring>
+#include <string>
+
+#include "raid.h"
+#include "sim/core/call.h"
+#include "sim/core/text.h"
+#include "sim/model/storage.h"
+
+namespace {
+
+using sim::fail;
+using sim::kBadParameter;
+using sim::kNoSuchObject;
+
+std::string lu_name(int n) { return "LU " + std::to_string(n); }
+
+void check_lun(int lun) {
+  if (lun < 0 || lun >= sim::kMaxLus) fail(kBadParameter, "LU number " + std::to_string(lun) + " is not 0-4095");
+}
+
+void need_lu(sim::Db& db, int lun) {
+  check_lun(lun);
+  if (!sim::lu_exists(db, lun)) fail(kNoSuchObject, "no " + lu_name(lun));
+}
+
+void not_held(sim::Db& db, int lun) {
+  auto h = db.sql("SELECT holder FROM lu_holds WHERE lun=?1 LIMIT 1");
+  h.bind(lun);
+  if (h.step()) fail(sim::kBusy, lu_name(lun) + " is in use by " + h.text(0));
+}
+
+// The columns every LU read fills its record from; the two neighbours (the
+// LU before it in its group, and whether one follows) come from the query.
+#define LU_COLUMNS                                                                                      \
+  "l.number, l.rg, g.level, l.staging, l.size, l.cachepart, l.pair_cachepart_valid, l.pair_cachepart, " \
+  "l.stripe, l.use_type, l.default_ctl, l.current_ctl, l.status, l.hostblock, "                       \
+  "q.start, q.finish, p.start, p.finish, f.finish, "
+#define LU_JOINS                                                                           \
+  " FROM lus l JOIN raid_groups g ON g.number=l.rg "                                       \
+  "LEFT JOIN jobs q ON q.lun=l.number AND q.kind='quick' "                                 \
+  "LEFT JOIN jobs p ON p.lun=l.number AND p.kind='parity' "                                \
+  "LEFT JOIN jobs f ON f.lun=l.number AND f.kind='format' "
+
+constexpr const char* kAllLus =
+    "SELECT " LU_COLUMNS
+    "lag(l.number, 1, -1) OVER w, lead(l.number) OVER w IS NULL" LU_JOINS
+    "WINDOW w AS (PARTITION BY l.rg ORDER BY l.start)";
+
+constexpr const char* kOneLu =
+    "SELECT " LU_COLUMNS
+    "coalesce((SELECT x.number FROM lus x WHERE x.rg=l.rg AND x.start<l.start ORDER BY x.start DESC LIMIT 1), -1), "
+    "NOT EXISTS(SELECT 1 FROM lus x WHERE x.rg=l.rg AND x.start>l.start)" LU_JOINS "WHERE l.number=?1";
+
+int job_status(const sim::Stmt& s, int col, int64_t now) {
+  if (s.is_null(col)) return sim::kJobNone;
+  return sim::job_state(now, s.i64(col), s.i64(col + 1)).status;
+}
+
+void fill_lu(LogicalUnitRec& r, const sim::Stmt& s, int64_t now) {
+  r.luNumber = s.i(0);
+  r.rgNumber = s.i(1);
+  r.raid_level = s.i(2);
+  r.staging = s.i(3);
+  r.capacity = static_cast<int32_t>(s.i64(4));
+  r.cachepart_no = s.i(5);
+  r.pair_cachepart_valid = s.i(6);
+  r.pair_cachepart_no = s.i(7);
+  r.current_cachepart_no = r.pair_cachepart_valid ? r.pair_cachepart_no : r.cachepart_no;
+  r.stripe = s.i(8);
+  r.lu_use_type = s.i(9);
+  r.defaultCTL = s.i(10);
+  r.currentCTL = s.i(11);
+  r.status = s.i(12);
+  r.hostblock = s.i(13);
+  r.qf_status = job_status(s, 14, now);
+  r.correction_status = job_status(s, 16, now);
+  bool formatting = (!s.is_null(15) && s.i64(15) > now) || (!s.is_null(18) && s.i64(18) > now);
+  if (formatting && r.status != sim::kLuInvalid) r.status = sim::kLuFormatting;
+  r.befor_lun = s.i(19);
+  r.rg_last_lu = s.i(20);
+  r.lu_valid = 1;
+  r.unit_type = sim::kUnitType;
+  r.unit_type_sub_code = sim::kUnitTypeSub;
+}
+
+}  // namespace
+
+extern "C" {
+
+int KX_GetLogicalUnit(const char* unit, const KXSessionInfoRec* session, LogicalUnitRec* list) {
+  return sim::run(__func__, sim::kRead, [&](sim::Call& c) {
+    c.session(unit, session);
+    if (!list) fail(kBadParameter, "LU list: null");
+    std::memset(list, 0, sizeof(LogicalUnitRec) * PERNIX_LOGICAL_UNITS);
+    for (int k = 0; k < PERNIX_LOGICAL_UNITS; ++k) list[k].luNumber = k;
+    auto s = c.db.sql(kAllLus);
+    while (s.step()) {
+      int n = s.i(0);
+      if (n >= 0 && n < PERNIX_LOGICAL_UNITS) fill_lu(list[n], s, c.now);
+    }
+  });
+}
+
+int KX_GetLogicalUnit1(const char* unit, const KXSessionInfoRec* session, int lun, LogicalUnitRec* lu) {
+  return sim::run(__func__, sim::kRead, [&](sim::Call& c) {
+    c.session(unit, session);
+    auto& out = sim::out(lu, "LU");
+    check_lun(lun);
+    auto s = c.db.sql(kOneLu);
+    s.bind(lun);
+    if (!s.step()) fail(kNoSuchObject, "no " + lu_name(lun));
+    fill_lu(out, s, c.now);
+  });
+}
+
+int KX_GetLastLogicalUnit(const char* unit, int* lun) {
+  return sim::run(__func__, sim::kRead, [&](sim::Call& c) {
+    c.unit_login(unit);
+    if (!lun) fail(kBadParameter, "LU number: null");
+    auto s = c.db.sql("SELECT coalesce(max(number), -1) FROM lus");
+    s.step();
+    *lun = s.i(0);
+  });
+}
+
+int KX_LogicalUnitAdd(const char* unit, const KXSessionInfoRec* session, const LogicalUnitRec* lu) {
+  return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
+    c.session(unit, session, sim::kRightStorage);
+    const LogicalUnitRec& r = sim::in(lu, "LU");
+    c.what = lu_name(r.luNumber);
+    sim::LuSpec spec;
+    spec.number = r.luNumber;
+    spec.rg = r.rgNumber;
+    spec.blocks = r.capacity;
+    spec.staging = r.staging;
+    spec.stripe = r.stripe;
+    spec.hostblock = r.hostblock;
+    spec.use_type = r.lu_use_type;
+    spec.ctl = r.defaultCTL;
+    spec.cachepart = r.cachepart_no;
+    spec.pair_cachepart_valid = r.pair_cachepart_valid;
+    spec.pair_cachepart = r.pair_cachepart_no;
+    spec.status = sim::kLuUnformatted;
+    c.what = lu_name(sim::create_lu(c.db, spec));
+  });
+}
+
+int KX_LogicalUnitDelete(const char* unit) {
+  return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
+    c.unit_login(unit, sim::kRightStorage);
+    auto s = c.db.sql("SELECT max(number) FROM lus");
+    if (!s.step() || s.is_null(0)) fail(kNoSuchObject, "no LU to delete");
+    int lun = s.i(0);
+    c.what = lu_name(lun);
+    sim::delete_lu(c.db, lun);
+  });
+}
+
+int KX_LogicalUnitDeleteAll(const char* unit) {
+  return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
+    c.unit_login(unit, sim::kRightStorage);
+    c.what = "every LU";
+    std::vector<int> all;
+    {
+      auto s = c.db.sql("SELECT number FROM lus ORDER BY number");
+      while (s.step()) all.push_back(s.i(0));
+    }
+    // A held LU refuses, and the transaction takes back the ones before it.
+    for (int lun : all) sim::delete_lu(c.db, lun);
+  });
+}
+
+int KX_LogicalUnitDeleteByLUN(const char* unit, const KXSessionInfoRec* session, int lun) {
+  return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
+    c.session(unit, session, sim::kRightStorage);
+    c.what = lu_name(lun);
+    check_lun(lun);
+    sim::delete_lu(c.db, lun);
+  });
+}
+
+int KX_LogicalUnitExpand(const char* unit, int a, int b) {
+  return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
+    c.unit_login(unit, sim::kRightStorage);
+    c.what = lu_name(a);
+    check_lun(a);
+    sim::expand_lu(c.db, a, b);
+  });
+}
+
+int KX_LogicalUnitChangeStaging(const char* unit, const KXSessionInfoRec* session, int a, int b) {
+  return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
+    c.session(unit, session, sim::kRightStorage);
+    c.what = lu_name(a);
+    need_lu(c.db, a);
+    if (b < 0 || b > 2) fail(kBadParameter, "staging mode " + std::to_string(b) + " is not 0-2");
+    auto u = c.db.sql("UPDATE lus SET staging=?1 WHERE number=?2");
+    u.bind(b).bind(a).run();
+  });
+}
+
+int KX_LogicalUnitChangeCtl(const char* unit, const KXSessionInfoRec* session, int a) {
+  return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
+    c.session(unit, session, sim::kRightStorage);
+    c.what = lu_name(a);
+    need_lu(c.db, a);
+    auto u = c.db.sql("UPDATE lus SET default_ctl=1-default_ctl, current_ctl=1-default_ctl WHERE number=?1");
+    u.bind(a).run();
+  });
+}
+
+int KX_LogicalUnitInvalid(const char* unit, int lun) {
+  return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
+    c.unit_login(unit, sim::kRightStorage);
+    c.what = lu_name(lun);
+    need_lu(c.db, lun);
+    not_held(c.db, lun);
+    auto s = c.db.sql("SELECT status FROM lus WHERE number=?1");
+    s.bind(lun);
+    s.step();
+    if (s.i(0) == sim::kLuInvalid) fail(sim::kBusy, lu_name(lun) + " is invalid already");
+    if (sim::lu_formatting(c.db, c.now, lun)) fail(sim::kBusy, lu_name(lun) + " is being formatted");
+    auto u = c.db.sql("UPDATE lus SET prior_status=status, status=?1 WHERE number=?2");
+    u.bind(static_cast<int>(sim::kLuInvalid)).bind(lun).run();
+  });
+}
+
+int KX_LogicalUnitRestore(const char* unit, int lun) {
+  return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
+    c.unit_login(unit, sim::kRightStorage);
+    c.what = lu_name(lun);
+    need_lu(c.db, lun);
+    auto s = c.db.sql("SELECT status FROM lus WHERE number=?1");
+    s.bind(lun);
+    s.step();
+    if (s.i(0) != sim::kLuInvalid) fail(sim::kBusy, lu_name(lun) + " is not invalid");
+    auto u = c.db.sql("UPDATE lus SET status=prior_status WHERE number=?1");
+    u.bind(lun).run();
+  });
+}
+
+int KX_LogicalUnitRealloc(const char* unit, const LUReallocInfoRec* info) {
+  return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
+    c.unit_login(unit, sim::kRightStorage);
+    const LUReallocInfoRec& r = sim::in(info, "re-allocation");
+    c.what = lu_name(r.lun);
+    need_lu(c.db, r.lun);
+    not_held(c.db, r.lun);
+    if (sim::lu_formatting(c.db, c.now, r.lun)) fail(sim::kBusy, lu_name(r.lun) + " is being formatted");
+    int target = r.newlun == -1 ? r.lun : r.newlun;
+    check_lun(target);
+    if (target != r.lun && sim::lu_exists(c.db, target)) fail(sim::kExists, lu_name(target) + " exists");
+    if (r.lusize < 0) fail(kBadParameter, "negative LU size");
+    if (r.lusize > 0) {
+      auto s = c.db.sql("SELECT size FROM lus WHERE number=?1");
+      s.bind(r.lun);
+      s.step();
+      int64_t size = s.i64(0);
+      if (r.lusize > size) {
+        sim::expand_lu(c.db, r.lun, r.lusize - size);
+      } else if (r.lusize < size) {
+        auto u = c.db.sql("UPDATE lus SET size=?1 WHERE number=?2");
+        u.bind(static_cast<int64_t>(r.lusize)).bind(r.lun).run();
+      }
+    }
+    if (target != r.lun) {
+      auto u = c.db.sql("UPDATE lus SET number=?1 WHERE number=?2");
+      u.bind(target).bind(r.lun).run();
+      auto j = c.db.sql("UPDATE jobs SET lun=?1 WHERE lun=?2");
+      j.bind(target).bind(r.lun).run();
+      c.what = lu_name(r.lun) + " to " + lu_name(target);
+    }
+  });
+}
+
+// a, b: a block count as high and low words; c: the block size in bytes (0
+// for 512).  r0, r1: the byte count as high and low words; r2: whole
+// megabytes (10^6 bytes), at most 2147483647.
+int KX_BlockToByte(int a, int b, int c, int* r0, int* r1, int* r2) {
+  return sim::run(__func__, sim::kRead, [&](sim::Call&) {
+    if (!r0 || !r1 || !r2) fail(kBadParameter, "result: null");
+    if (a < 0) fail(kBadParameter, "negative block count");
+    int64_t size = c == 0 ? sim::kBlockBytes : c;
+    if (size != 512 && size != 520 && size != 4096) fail(kBadParameter, "block size is not 512, 520 or 4096");
+    uint64_t blocks = (static_cast<uint64_t>(static_cast<uint32_t>(a)) << 32) | static_cast<uint32_t>(b);
+    // 2^63 / 4096 blocks still fit in 64 bits of bytes.
+    if (blocks > (UINT64_C(1) << 51)) fail(kBadParameter, "block count too large");
+    uint64_t bytes = blocks * static_cast<uint64_t>(size);
+    *r0 = sim::hi_word(static_cast<int64_t>(bytes));
+    *r1 = sim::lo_word(static_cast<int64_t>(bytes));
+    *r2 = static_cast<int32_t>(std::min<uint64_t>(bytes / 1000000, INT32_MAX));
+  });
+}
+
+}  // extern "C"
