@@ -22,6 +22,8 @@ using sim::kBadParameter;
 
 constexpr const char* kPoolHolder = "pool";
 constexpr const char* kUniteHolder = "unified LU";
+// A configuration file of 90 groups, 450 drives and 4096 LUs stays far below.
+constexpr size_t kRaidLuFileLimit = 16u << 20;
 
 std::string lu_name(int lun) { return "LU " + std::to_string(lun); }
 
@@ -448,6 +450,51 @@ int KX_GetLabelList(KXLabelRec* labels_out, int* count) {
 
 int KX_GetLabelList2(KXLabelRec* labels_out, int* count) {
   return sim::run(__func__, sim::kRead, [&](sim::Call&) { labels(labels_out, PERNIX_LABELS2, count, true); });
+}
+
+int KX_RaidLuExport(const char* unit, const KXSessionInfoRec* session, const char* path) {
+  return sim::run(__func__, sim::kRead, [&](sim::Call& c) {
+    c.session(unit, session);
+    std::string file = sim::in_text(path, PERNIX_PATH_SIZE, "path");
+    auto f = sim::raid_lu_snapshot(c.db, c.now);
+    f.unit = c.where;
+    sim::write_file(file, sim::render_raid_lu(f));
+  });
+}
+
+int KX_RaidLuImportEx(const char* unit, const KXSessionInfoRec* session, const char* path,
+                      RaidLUInformationRec* info) {
+  return sim::run(__func__, sim::kRead, [&](sim::Call& c) {
+    c.session(unit, session);
+    std::string file = sim::in_text(path, PERNIX_PATH_SIZE, "path");
+    if (!info) fail(kBadParameter, "RAID group and LU information: null");
+    auto f = sim::parse_raid_lu(sim::read_file(file, kRaidLuFileLimit));
+    // Filled aside, so a refused file leaves the caller's record as it was.
+    auto r = std::make_unique<RaidLUInformationRec>();
+    std::memset(r.get(), 0, sizeof *r);
+    sim::raid_group_information_of(f, r->rgparam);
+    sim::logical_units_of(f, r->luparam);
+    r->spare_count = static_cast<int32_t>(f.spares.size());
+    for (size_t k = 0; k < f.spares.size(); ++k)
+      r->spareinfo[k] = {static_cast<int32_t>(f.spares[k].enclosure), static_cast<int32_t>(f.spares[k].slot)};
+    std::memcpy(info, r.get(), sizeof *r);
+  });
+}
+
+int KX_RaidLuImport(const char* unit, const char* path, RaidGroupRec* groups, LogicalUnitRec* lus) {
+  return sim::run(__func__, sim::kRead, [&](sim::Call& c) {
+    c.unit_login(unit);
+    std::string file = sim::in_text(path, PERNIX_PATH_SIZE, "path");
+    if (!groups) fail(kBadParameter, "RAID groups: null");
+    if (!lus) fail(kBadParameter, "LUs: null");
+    auto f = sim::parse_raid_lu(sim::read_file(file, kRaidLuFileLimit));
+    auto g = std::make_unique<RaidGroupRec[]>(PERNIX_RAID_GROUPS);
+    auto l = std::make_unique<LogicalUnitRec[]>(PERNIX_LOGICAL_UNITS);
+    sim::raid_groups_of(f, g.get());
+    sim::logical_units_of(f, l.get());
+    std::memcpy(groups, g.get(), sizeof(RaidGroupRec) * PERNIX_RAID_GROUPS);
+    std::memcpy(lus, l.get(), sizeof(LogicalUnitRec) * PERNIX_LOGICAL_UNITS);
+  });
 }
 
 }  // extern "C"

@@ -70,4 +70,47 @@ void write_file(const std::string& path, std::string_view data);
 // read, kBadFile when it is longer.
 std::string read_file(const std::string& path, size_t limit);
 
+// ---- the RAID group and LU configuration file
+//
+// Line-based text, one object a line as `kind name=value ...` (sim/README.md
+// gives the fields); '#' starts a comment line.  The first line that counts
+// is the header, the last is `end`.
+
+constexpr const char* kRaidLuHeader = "pernix-sim raid-lu 1";
+
+struct RaidLuFile {
+  struct Group {
+    int64_t number, level, enclosure, slot, per_group, groups, minimum_gb, last_lba_set, last_lba,
+        total, rest, largest_free, rg_type, unit_type, unit_type_sub;
+  };
+  struct Drive {
+    int64_t rg, enclosure, slot, group, next_enclosure, next_slot;
+  };
+  struct Lu {
+    int64_t number, rg, level, staging, capacity, before, cachepart, pair_cachepart_valid, pair_cachepart,
+        current_cachepart, stripe, use_type, default_ctl, current_ctl, status, hostblock, qf_status,
+        correction_status, rg_last_lu, unit_type, unit_type_sub;
+  };
+  struct Spare {
+    int64_t enclosure, slot;
+  };
+  std::string unit;
+  std::vector<Group> groups;
+  std::vector<Drive> drives;
+  std::vector<Lu> lus;
+  std::vector<Spare> spares;
+};
+
+// The model as the file holds it, at the simulator's time now.
+RaidLuFile raid_lu_snapshot(Db& db, int64_t now);
+std::string render_raid_lu(const RaidLuFile& f);
+// kBadFile naming the line when the text is not such a file.
+RaidLuFile parse_raid_lu(std::string_view text);
+// The records a file reads into: the older RAID group list (unused entries
+// rgnum -1), the newer RAID group information, the LU list (unused entries
+// carry their number only).
+void raid_groups_of(const RaidLuFile& f, RaidGroupRec* out /* [90] */);
+void raid_group_information_of(const RaidLuFile& f, RaidGroupInformationRec& out);
+void logical_units_of(const RaidLuFile& f, LogicalUnitRec* out /* [4096] */);
+
 }  // namespace sim
