@@ -47,10 +47,12 @@ void create_core(Db& db, const Options& o) {
   auto u = db.sql(
       "INSERT INTO units VALUES(?1, 'default', 1, 1, 2, 1, 0, ?2, ?3, ?4, 1, 1)");
   u.bind(o.unit).bind(o.ip0).bind(o.ip1).bind(o.serial).run();
-  auto d = db.sql("INSERT OR IGNORE INTO discover VALUES(?1, ?2, 1, 2, 1, ?3, ?4)");
-  d.bind(o.ip0).bind(o.serial).bind(0).bind(1).run();
-  auto d1 = db.sql("INSERT OR IGNORE INTO discover VALUES(?1, ?2, 1, 2, 1, ?3, ?4)");
-  d1.bind(o.ip1).bind(o.serial).bind(1).bind(1).run();
+  // One borrow of the cached statement at a time: a second borrow of the same
+  // text while the first lives would share its bindings.
+  for (int ctl = 0; ctl < 2; ++ctl) {
+    auto d = db.sql("INSERT OR IGNORE INTO discover VALUES(?1, ?2, 1, 2, 1, ?3, ?4)");
+    d.bind(ctl == 0 ? o.ip0 : o.ip1).bind(o.serial).bind(ctl).bind(1).run();
+  }
   int n = 0;
   for (const auto& ip : o.discover) {
     auto x = db.sql("INSERT OR IGNORE INTO discover VALUES(?1, ?2, 1, 2, 1, 0, 0)");
