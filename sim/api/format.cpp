@@ -285,8 +285,8 @@ int KX_EntryParityCorrectionList(const char* unit, const KXSessionInfoRec* sessi
       if (lun < 0 || lun >= 4096) fail(kBadParameter, "LU number " + std::to_string(lun) + " is not 0-4095");
       if (seen[lun]) fail(kBadParameter, lu_name(lun) + " is listed twice");
       seen[lun] = true;
-      enter_job(c, lun, "parity", l.correction_mode, sim::kParityRate);
     }
+    for (int k = 0; k < l.lu_count; ++k) enter_job(c, l.lu[k], "parity", l.correction_mode, sim::kParityRate);
     c.what = "parity correction of " + std::to_string(l.lu_count) + " LUs";
   });
 }
