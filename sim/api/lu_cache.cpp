@@ -159,9 +159,9 @@ int KX_SetLuCachePartition(const char* unit, const KXSessionInfoRec* session,
     range(r.option, 0, 1, "option");
     range(r.support_index, 0, 1, "support_index");
     range(r.valid_index, 0, 1, "valid_index");
-    auto lus = sim::existing_lus(c.db);
+    auto all = sim::lu_cache_all(c.db);
     for (int i = 0; i < sim::kMaxLus; ++i) {
-      if (!lus[i]) {
+      if (!all[i].exists) {
         if (!empty_slot({r.current_prt_num[i], r.reserve_prt_num[i], r.now_prt_num[i], r.pair_prt_num[i]}))
           no_lu(i);
         continue;
@@ -173,10 +173,14 @@ int KX_SetLuCachePartition(const char* unit, const KXSessionInfoRec* session,
     }
     PartitionHead h{r.option, r.support_index, r.valid_index};
     sim::save_setting(c.db, kPartitionKey, &h, sizeof h);
-    for (int i = 0; i < sim::kMaxLus; ++i)
-      if (lus[i])
+    // Only the LUs whose partitions change are written.
+    for (int i = 0; i < sim::kMaxLus; ++i) {
+      const auto& was = all[i];
+      if (was.exists && (was.current != r.current_prt_num[i] || was.reserve != r.reserve_prt_num[i] ||
+                         was.now != r.now_prt_num[i] || was.pair != r.pair_prt_num[i]))
         sim::set_lu_partition(c.db, i, r.current_prt_num[i], r.reserve_prt_num[i], r.now_prt_num[i],
                               r.pair_prt_num[i]);
+    }
   });
 }
 
@@ -214,11 +218,11 @@ int KX_SetPrefetchTuning(const char* unit, const KXSessionInfoRec* session,
     c.session(unit, session, sim::kRightStorage);
     const auto& t = sim::in(tuning, "prefetch tuning");
     check_tuning_head(t);
-    auto lus = sim::existing_lus(c.db);
+    auto all = sim::lu_cache_all(c.db);
     for (int i = 0; i < sim::kMaxLus; ++i) {
       const auto& r = t.lu_range[i];
       const auto& l = t.lu[i];
-      if (!lus[i]) {
+      if (!all[i].exists) {
         if (!empty_slot({r.multi_stream_read, r.multi_stream_write, r.next_pre_mode, r.pre_std,
                          l.pre_size_basis, l.pre_size_fixation}))
           no_lu(i);
@@ -234,12 +238,14 @@ int KX_SetPrefetchTuning(const char* unit, const KXSessionInfoRec* session,
     TuningHead h;
     std::memcpy(&h, &t, sizeof h);
     sim::save_setting(c.db, kTuningKey, &h, sizeof h);
+    // Only the LUs whose tuning changes are written.
     for (int i = 0; i < sim::kMaxLus; ++i) {
-      if (!lus[i]) continue;
+      if (!all[i].exists) continue;
       const auto& r = t.lu_range[i];
       const auto& l = t.lu[i];
-      sim::set_lu_prefetch(c.db, i, {r.multi_stream_read, r.multi_stream_write, r.next_pre_mode, r.pre_std,
-                                     l.pre_size_basis, l.pre_size_fixation});
+      sim::LuPrefetch p{r.multi_stream_read, r.multi_stream_write, r.next_pre_mode, r.pre_std,
+                        l.pre_size_basis, l.pre_size_fixation};
+      if (!(p == all[i].prefetch)) sim::set_lu_prefetch(c.db, i, p);
     }
   });
 }

@@ -49,6 +49,7 @@ void need_lu(Db& db, int lun, const char* what);
 struct LuPrefetch {
   int multi_stream_read = 0, multi_stream_write = 0, next_pre_mode = 0, pre_std = 0;
   int pre_size_basis = 256, pre_size_fixation = 0;
+  bool operator==(const LuPrefetch&) const = default;
 };
 struct LuCache {
   bool exists = false;
