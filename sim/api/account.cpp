@@ -673,7 +673,7 @@ int KX_LoadKXUserLANInformation(const char* unit, const KXSessionInfoRec* sessio
       std::string key = trim(line.substr(0, eq)), value = trim(line.substr(eq + 1));
       if (auto it = ints.find(key); it != ints.end()) {
         char* end = nullptr;
-        long v = std::strtol(value.c_str(), &end, 10);
+        long long v = std::strtoll(value.c_str(), &end, 10);
         if (value.empty() || *end || v < INT32_MIN || v > INT32_MAX)
           fail(sim::kBadFile, file + ":" + std::to_string(no) + ": not a number");
         *it->second = static_cast<int32_t>(v);
