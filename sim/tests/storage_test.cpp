@@ -692,7 +692,7 @@ void lu_list_speed() {
   fresh("speed4096");
   unsetenv("PERNIX_SIM_LUS");
   CHECK_EQ(sql_int("SELECT count(*) FROM lus"), 4096);
-  double full = median_us(50, [&] { KX_GetLogicalUnit(kUnit, &S, list.get()); });
+  double full = median_us(20, [&] { KX_GetLogicalUnit(kUnit, &S, list.get()); });
   int valid = 0;
   for (int k = 0; k < PERNIX_LOGICAL_UNITS; ++k) valid += list[k].lu_valid;
   CHECK_EQ(valid, 4096);
