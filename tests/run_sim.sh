@@ -38,6 +38,14 @@ done
 [ "$(basename "$bridge")" = libdiskarrayjni.so ] ||
   { echo "run_sim: the bridge must be named libdiskarrayjni.so (System.loadLibrary finds it by name)"; exit 1; }
 
+# A 32-bit JVM on a machine that runs i386 programs only under emulation
+# cannot start processes through its spawn helper (an i386 program the
+# kernel cannot run): it forks them itself.
+jvm_opts=()
+if [ "$(od -An -tx1 -j4 -N1 "$bridge" | tr -d ' ')" = 01 ] && ! /lib/ld-linux.so.2 --version >/dev/null 2>&1; then
+  jvm_opts+=(-Djdk.lang.Process.launchMechanism=VFORK)
+fi
+
 libdir=$(cd "$(dirname "$bridge")" && pwd)
 simdir=$(cd "$(dirname "$simlib")" && pwd)
 log=$(mktemp)
@@ -54,7 +62,7 @@ for class in "$@"; do
   chmod 755 "$dir"
   env -u PERNIX_SIM_FAULTS -u PERNIX_SIM_CONFIG PERNIX_SIM_DB="$dir/array.db" \
     LD_LIBRARY_PATH="$simdir${LD_LIBRARY_PATH:+:$LD_LIBRARY_PATH}" \
-    "$java" -Xcheck:jni -ea -Djava.library.path="$libdir" \
+    "$java" -Xcheck:jni -ea ${jvm_opts[@]+"${jvm_opts[@]}"} -Djava.library.path="$libdir" \
     -Dsim.java="$(command -v "$java")" -Dsim.tool="$tool" -Dsim.dir="$dir" -Dsim.only="$only" \
     -XX:ErrorFile="${TMPDIR:-/tmp}/kx_hs_err_%p.log" -cp "$cp" simtest.Runner "$class" 2>&1 | tee "$log"
   r=${PIPESTATUS[0]}

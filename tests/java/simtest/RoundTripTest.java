@@ -291,6 +291,7 @@ public class RoundTripTest {
     }
 
     @Test
+    @Category(Smoke.class)
     public void currentWizardParameters() throws Exception {
         KXUserInfo u = new KXUserInfo();
         u.user = Sim.ADMIN;
