@@ -55,12 +55,19 @@ trap 'rm -rf "$log" "$work"' EXIT
 # root's rights (a read-only database) runs one as nobody.
 chmod 755 "$work"
 
+# The suites expect the default array: options of the simulator set in this
+# environment (PERNIX_SIM_DRIVES, a config file, fault rules ...) are dropped.
+unset_sim=()
+for v in $(compgen -e); do
+  case "$v" in PERNIX_SIM_*) unset_sim+=(-u "$v") ;; esac
+done
+
 start=$(date +%s.%N)
 rc=0 passed=0 failed=0 skipped=0
 for class in "$@"; do
   dir=$(mktemp -d "$work/db.XXXXXX")
   chmod 755 "$dir"
-  env -u PERNIX_SIM_FAULTS -u PERNIX_SIM_CONFIG PERNIX_SIM_DB="$dir/array.db" \
+  env ${unset_sim[@]+"${unset_sim[@]}"} PERNIX_SIM_DB="$dir/array.db" \
     LD_LIBRARY_PATH="$simdir${LD_LIBRARY_PATH:+:$LD_LIBRARY_PATH}" \
     "$java" -Xcheck:jni -ea ${jvm_opts[@]+"${jvm_opts[@]}"} -Djava.library.path="$libdir" \
     -Dsim.java="$(command -v "$java")" -Dsim.tool="$tool" -Dsim.dir="$dir" -Dsim.only="$only" \
