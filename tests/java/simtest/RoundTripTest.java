@@ -33,6 +33,7 @@ import orvane.str.diskarray.SATADriveInformation;
 import orvane.str.diskarray.SATADriveRestoration;
 import orvane.str.diskarray.TurboLu;
 import orvane.str.diskarray.UnitIdentifier;
+import orvane.str.diskarray.WizardParam;
 
 /**
  * Every setter of these families reads back, through its getter, exactly what
@@ -306,6 +307,42 @@ public class RoundTripTest {
             assertSameFields(p, JNI.KX_GetNowWZParam(UNIT, 1));
             NowWZParameter other = JNI.KX_GetNowWZParam(UNIT, 0);
             assertNotEquals("WZ-1", other.ctrl_id.id_front);
+        } finally {
+            JNI.KX_LogoutKXUnit(UNIT, 2);
+        }
+    }
+
+    @Test
+    public void wizardParametersKeptByTheUnitAndInAFile() throws Exception {
+        KXUserInfo u = new KXUserInfo();
+        u.user = Sim.ADMIN;
+        u.passwd = Sim.PASSWORD;
+        JNI.KX_LoginKXUnit(UNIT, 2, u);
+        try {
+            String file = Sim.dir().resolve("wizard.param").toString();
+            WizardParam p = JNI.KX_GetWizardParam(UNIT, "", 0);
+            WizardParam original = JNI.KX_GetWizardParam(UNIT, "", 0);
+            p.fd_backup = 1 - p.fd_backup;
+            p.drive_capacity.spare = 4;
+            p.drive_capacity.row[0] = 450;
+            p.inquiry.ansi_version = 7;
+            p.inquiry.product = "LAB-ARRAY";
+            p.lan_conf[1].ip_address = "192.0.2.99";
+            p.lan_conf[1].subnet = "";
+            JNI.KX_TestWizardParam(UNIT, p, "", 0);
+            assertSameFields(original, JNI.KX_GetWizardParam(UNIT, "", 0));  // a test keeps nothing
+
+            // Written to a file, read back from it; the unit's own stay as they were.
+            JNI.KX_SetWizardParam(UNIT, p, file, 1);
+            assertSameFields(p, JNI.KX_GetWizardParam(UNIT, file, 1));
+            assertSameFields(original, JNI.KX_GetWizardParam(UNIT, "", 0));
+
+            JNI.KX_SetWizardParam(UNIT, p, "", 0);
+            assertSameFields(p, JNI.KX_GetWizardParam(UNIT, "", 0));
+
+            p.inquiry.ansi_version = 8;
+            expect(Sim.BAD_PARAMETER, () -> JNI.KX_SetWizardParam(UNIT, p, "", 0));
+            expect(12304, () -> JNI.KX_GetWizardParam(UNIT, file + ".missing", 1));
         } finally {
             JNI.KX_LogoutKXUnit(UNIT, 2);
         }

@@ -1,12 +1,16 @@
 package simtest;
 
 import static org.junit.Assert.assertEquals;
+import static org.junit.Assert.assertTrue;
 import static simtest.Sim.JNI;
 import static simtest.Sim.UNIT;
 import static simtest.Sim.expect;
 import static simtest.Sim.wide;
 
+import java.nio.file.Files;
+import java.nio.file.Path;
 import java.util.ArrayList;
+import java.util.Arrays;
 import java.util.List;
 import org.junit.AfterClass;
 import org.junit.BeforeClass;
@@ -18,6 +22,12 @@ import orvane.str.diskarray.DiskDrive;
 import orvane.str.diskarray.DiskDriveInformation;
 import orvane.str.diskarray.KXSessionInfo;
 import orvane.str.diskarray.KXUserInfo;
+import orvane.str.diskarray.LogicalUnit;
+import orvane.str.diskarray.QuickFormatList;
+import orvane.str.diskarray.QuickFormatStatus;
+import orvane.str.diskarray.RaidGroup;
+import orvane.str.diskarray.RaidGroupInformation;
+import orvane.str.diskarray.RaidLUInformation;
 import orvane.str.diskarray.RGAreaInformation;
 import orvane.str.diskarray.RgDetail;
 
@@ -146,6 +156,67 @@ public class StorageTest {
         }
         assertAreas(60, "free:" + total);
         JNI.KX_RaidGroupDelete(UNIT, s, 60);
+        Sim.consistent(s);
+    }
+
+    @Test
+    public void theRaidGroupAndLuFileReadsBackWhatWasExported() throws Exception {
+        Path file = Sim.dir().resolve("raid-lu.txt");
+        add(700, 1, 3 * 1953125);
+        RaidGroupInformation groups = JNI.KX_GetRaidGroupInformation(UNIT, s);
+        LogicalUnit[] lus = JNI.KX_GetLogicalUnit(UNIT, s);
+        RaidGroup[][] old = new RaidGroup[1][];
+        underUnitLogin(() -> old[0] = JNI.KX_GetRaidGroups(UNIT));
+        JNI.KX_RaidLuExport(UNIT, s, file.toString());
+        JNI.KX_LogicalUnitDeleteByLUN(UNIT, s, 700);  // the file keeps what was
+
+        RaidLUInformation back = JNI.KX_RaidLuImportEx(UNIT, s, file.toString());
+        Sim.assertSameFields(groups, back.rgparam);
+        Sim.assertSameFields(lus, back.luparam);
+        underUnitLogin(() -> {
+            Object[] both = JNI.KX_RaidLuImport(UNIT, file.toString());
+            assertEquals(90 + 4096, both.length);
+            Sim.assertSameFields(old[0], Arrays.copyOfRange(both, 0, 90, RaidGroup[].class));
+            Sim.assertSameFields(lus, Arrays.copyOfRange(both, 90, both.length, LogicalUnit[].class));
+        });
+
+        // A damaged file is refused whole.
+        List<String> lines = new ArrayList<>(Files.readAllLines(file));
+        lines.add(lines.size() - 1, "lu number=9999");
+        Files.write(file, lines);
+        expect(12305, () -> JNI.KX_RaidLuImportEx(UNIT, s, file.toString()));
+        expect(12304, () -> JNI.KX_RaidLuImportEx(UNIT, s, file + ".missing"));
+        Sim.consistent(s);
+    }
+
+    @Test
+    public void quickFormatsRunOneAfterAnotherOnTheSimulatorsClock() throws Exception {
+        int gb = 1953125;
+        add(800, 0, 100 * gb);  // 10 s each at 10 GB/s
+        add(801, 1, 100 * gb);
+        assertEquals("not formatted", 2, JNI.KX_GetLogicalUnit1(UNIT, s, 800).status);
+        QuickFormatList list = new QuickFormatList();
+        list.lu[800] = 1;
+        list.lu[801] = 1;
+        JNI.KX_EntryQuickFormatList(UNIT, s, list);
+        QuickFormatStatus[] now = JNI.KX_GetQuickFormatStatusList(UNIT, s).lu;
+        assertEquals(1, now[800].entry);
+        assertEquals("waiting for LU 800", 1, now[801].status);
+        assertEquals(1, now[801].waiting_number);
+
+        Sim.clock(15);  // 800 done, 801 half way
+        now = JNI.KX_GetQuickFormatStatusList(UNIT, s).lu;
+        assertEquals(3, now[800].status);
+        assertEquals(100, now[800].percent);
+        assertEquals(2, now[801].status);
+        assertTrue("percent " + now[801].percent, now[801].percent >= 40 && now[801].percent <= 60);
+        assertEquals("formatted", 0, JNI.KX_GetLogicalUnit1(UNIT, s, 800).status);
+        assertEquals("formatting", 1, JNI.KX_GetLogicalUnit1(UNIT, s, 801).status);
+
+        Sim.clock(10);
+        assertEquals(3, JNI.KX_GetQuickFormatStatusList(UNIT, s).lu[801].status);
+        JNI.KX_LogicalUnitDeleteByLUN(UNIT, s, 800);
+        JNI.KX_LogicalUnitDeleteByLUN(UNIT, s, 801);
         Sim.consistent(s);
     }
 
