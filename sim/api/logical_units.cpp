@@ -4,7 +4,9 @@
 #include <algorithm>
 #include <climits>
 #include <cstring>
+#include <iterator>
 #include <string>
+#include <string_view>
 
 #include "raid.h"
 #include "sim/core/call.h"
@@ -46,22 +48,24 @@ void not_held(sim::Db& db, int lun) {
   "LEFT JOIN jobs p ON p.lun=l.number AND p.kind='parity' "                                \
   "LEFT JOIN jobs f ON f.lun=l.number AND f.kind='format' "
 
-// In address order within each group; the neighbours are filled in while the
-// rows go by (a window function costs ten times the whole read at 4096 LUs).
-constexpr const char* kAllLus =
-    "SELECT " LU_COLUMNS "-1, 1" LU_JOINS "ORDER BY l.rg, l.start";
-
 constexpr const char* kOneLu =
     "SELECT " LU_COLUMNS
     "coalesce((SELECT x.number FROM lus x WHERE x.rg=l.rg AND x.start<l.start ORDER BY x.start DESC LIMIT 1), -1), "
     "NOT EXISTS(SELECT 1 FROM lus x WHERE x.rg=l.rg AND x.start>l.start)" LU_JOINS "WHERE l.number=?1";
 
-int job_status(const sim::Stmt& s, int col, int64_t now) {
-  if (s.is_null(col)) return sim::kJobNone;
-  return sim::job_state(now, s.i64(col), s.i64(col + 1)).status;
-}
+// The whole list reads the LUs alone, in address order within each group (the
+// neighbours are filled in while the rows go by), and the groups' levels and
+// the jobs apart: joined per row they cost more than the rest of the read at
+// 4096 LUs (a window function for the neighbours costs ten times the read).
+constexpr const char* kAllLus =
+    "SELECT number, rg, 0, staging, size, cachepart, pair_cachepart_valid, pair_cachepart, stripe, use_type, "
+    "default_ctl, current_ctl, status, hostblock FROM lus ORDER BY rg, start";
+constexpr const char* kAllLevels = "SELECT number, level FROM raid_groups";
+constexpr const char* kAllJobs =
+    "SELECT lun, kind, start, finish FROM jobs WHERE kind IN ('quick', 'parity', 'format')";
 
-void fill_lu(LogicalUnitRec& r, const sim::Stmt& s, int64_t now) {
+// Columns 0-13 of both reads.
+void fill_lu_fields(LogicalUnitRec& r, const sim::Stmt& s) {
   r.luNumber = s.i(0);
   r.rgNumber = s.i(1);
   r.raid_level = s.i(2);
@@ -77,15 +81,29 @@ void fill_lu(LogicalUnitRec& r, const sim::Stmt& s, int64_t now) {
   r.currentCTL = s.i(11);
   r.status = s.i(12);
   r.hostblock = s.i(13);
-  r.qf_status = job_status(s, 14, now);
-  r.correction_status = job_status(s, 16, now);
-  bool formatting = (!s.is_null(15) && s.i64(15) > now) || (!s.is_null(18) && s.i64(18) > now);
-  if (formatting && r.status != sim::kLuInvalid) r.status = sim::kLuFormatting;
-  r.befor_lun = s.i(19);
-  r.rg_last_lu = s.i(20);
+  r.qf_status = sim::kJobNone;
+  r.correction_status = sim::kJobNone;
   r.lu_valid = 1;
   r.unit_type = sim::kUnitType;
   r.unit_type_sub_code = sim::kUnitTypeSub;
+}
+
+// One job of the LU: a quick format or parity correction shows in its status
+// field, and an LU is formatting while a quick or full format runs.
+void apply_job(LogicalUnitRec& r, std::string_view kind, int64_t start, int64_t finish, int64_t now) {
+  if (kind == "quick") r.qf_status = sim::job_state(now, start, finish).status;
+  if (kind == "parity") r.correction_status = sim::job_state(now, start, finish).status;
+  if ((kind == "quick" || kind == "format") && finish > now && r.status != sim::kLuInvalid)
+    r.status = sim::kLuFormatting;
+}
+
+void fill_lu(LogicalUnitRec& r, const sim::Stmt& s, int64_t now) {
+  fill_lu_fields(r, s);
+  if (!s.is_null(14)) apply_job(r, "quick", s.i64(14), s.i64(15), now);
+  if (!s.is_null(16)) apply_job(r, "parity", s.i64(16), s.i64(17), now);
+  if (!s.is_null(18)) apply_job(r, "format", 0, s.i64(18), now);
+  r.befor_lun = s.i(19);
+  r.rg_last_lu = s.i(20);
 }
 
 }  // namespace
@@ -98,18 +116,36 @@ int KX_GetLogicalUnit(const char* unit, const KXSessionInfoRec* session, Logical
     if (!list) fail(kBadParameter, "LU list: null");
     std::memset(list, 0, sizeof(LogicalUnitRec) * PERNIX_LOGICAL_UNITS);
     for (int k = 0; k < PERNIX_LOGICAL_UNITS; ++k) list[k].luNumber = k;
-    auto s = c.db.sql(kAllLus);
-    LogicalUnitRec* prev = nullptr;
-    while (s.step()) {
-      int n = s.i(0);
-      if (n < 0 || n >= PERNIX_LOGICAL_UNITS) continue;
-      LogicalUnitRec& r = list[n];
-      fill_lu(r, s, c.now);
-      if (prev && prev->rgNumber == r.rgNumber) {
-        r.befor_lun = prev->luNumber;
-        prev->rg_last_lu = 0;
+    int levels[sim::kMaxRaidGroups];
+    std::fill(std::begin(levels), std::end(levels), -1);  // no such group
+    {
+      auto g = c.db.sql(kAllLevels);
+      while (g.step())
+        if (int n = g.i(0); n >= 0 && n < sim::kMaxRaidGroups) levels[n] = g.i(1);
+    }
+    {
+      auto s = c.db.sql(kAllLus);
+      LogicalUnitRec* prev = nullptr;
+      while (s.step()) {
+        int n = s.i(0), rg = s.i(1);
+        if (n < 0 || n >= PERNIX_LOGICAL_UNITS || rg < 0 || rg >= sim::kMaxRaidGroups || levels[rg] < 0) continue;
+        LogicalUnitRec& r = list[n];
+        fill_lu_fields(r, s);
+        r.raid_level = levels[rg];
+        r.befor_lun = -1;
+        r.rg_last_lu = 1;
+        if (prev && prev->rgNumber == r.rgNumber) {
+          r.befor_lun = prev->luNumber;
+          prev->rg_last_lu = 0;
+        }
+        prev = &r;
       }
-      prev = &r;
+    }
+    auto j = c.db.sql(kAllJobs);
+    while (j.step()) {
+      int n = j.i(0);
+      if (n < 0 || n >= PERNIX_LOGICAL_UNITS || !list[n].lu_valid) continue;
+      apply_job(list[n], j.text(1), j.i64(2), j.i64(3), c.now);
     }
   });
 }

@@ -144,7 +144,7 @@ Db& Db::open() {
 void Db::close() { current().reset(); }
 
 Db::Db(std::string path) : path_(std::move(path)) {
-  int rc = sqlite3_open_v2(path_.c_str(), &h_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+  int rc = sqlite3_open_v2(path_.c_str(), &h_, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_NOMUTEX, nullptr);
   if (rc != SQLITE_OK) {
     sqlite3_close_v2(h_);
     h_ = nullptr;

@@ -307,19 +307,28 @@ RaidGroup read_group(Db& db, const Stmt& s) {
   g.drive_blocks = s.i64(4);
   g.capacity = s.i64(5);
   g.rg_type = s.i(6);
-  g.used = s.i64(7);
   g.first_enclosure = s.is_null(8) ? -1 : s.i(8);
   g.first_slot = s.is_null(9) ? -1 : s.i(9);
   g.smallest_blocks = s.i64(10);
   g.smallest_gb = static_cast<int>(g.smallest_blocks * kBlockBytes / kGB);
-  for (const auto& a : rg_areas(db, g.number))
-    if (a.lun < 0) g.largest_free = std::max(g.largest_free, a.size);
+  // The blocks in use and the largest free area in one pass over the group's
+  // LUs in address order (each group's LUs read once, nothing kept).
+  auto l = db.sql("SELECT start, size FROM lus WHERE rg=?1 ORDER BY start");
+  l.bind(g.number);
+  int64_t at = 0;
+  while (l.step()) {
+    int64_t start = l.i64(0), size = l.i64(1);
+    if (start > at) g.largest_free = std::max(g.largest_free, start - at);
+    g.used += size;
+    at = start + size;
+  }
+  if (at < g.capacity) g.largest_free = std::max(g.largest_free, g.capacity - at);
   return g;
 }
 
 constexpr const char* kGroupColumns =
     "SELECT g.number, g.level, g.per_group, g.groups, g.drive_blocks, g.capacity, g.rg_type, "
-    "(SELECT coalesce(sum(size), 0) FROM lus WHERE rg=g.number), "
+    "0, "  // the blocks in use: summed by read_group
     "(SELECT enclosure FROM drives WHERE rg=g.number AND rg_pos=0), "
     "(SELECT slot FROM drives WHERE rg=g.number AND rg_pos=0), "
     "(SELECT coalesce(min(blocks), 0) FROM drives WHERE rg=g.number) FROM raid_groups g ";

@@ -4,6 +4,8 @@
 #include <chrono>
 #include <functional>
 #include <cstdint>
+#include <cstdio>
+#include <cstring>
 #include <memory>
 #include <vector>
 
@@ -56,6 +58,26 @@ LogicalUnitRec lu(int lun) {
   int rc = KX_GetLogicalUnit1(kUnit, &S, lun, &r);
   if (rc != 0) std::fprintf(stderr, "GetLogicalUnit1(%d): %d\n", lun, rc);
   return r;
+}
+
+// The list and the single reads agree on every LU made (numbers, neighbours,
+// job states); the slots of numbers not made hold only their number.
+void list_matches_singles() {
+  auto list = std::make_unique<LogicalUnitRec[]>(PERNIX_LOGICAL_UNITS);
+  CHECK_EQ(KX_GetLogicalUnit(kUnit, &S, list.get()), 0);
+  for (int n = 0; n < PERNIX_LOGICAL_UNITS; ++n) {
+    LogicalUnitRec one{};
+    if (KX_GetLogicalUnit1(kUnit, &S, n, &one) == 0) {
+      if (std::memcmp(&one, &list[n], sizeof one) != 0) {
+        std::fprintf(stderr, "LU %d: the list differs from the single read\n", n);
+        ++t::failures;
+      }
+    } else {
+      LogicalUnitRec empty{};
+      empty.luNumber = n;
+      CHECK(std::memcmp(&empty, &list[n], sizeof empty) == 0);
+    }
+  }
 }
 
 RgDetailRec detail(int rgnum) {
@@ -268,6 +290,7 @@ void lu_area_cases() {
   CHECK(areas(20) == want);
   CHECK_EQ(lu(104).rg_last_lu, 1);
   CHECK_EQ(lu(103).rg_last_lu, 0);
+  list_matches_singles();
   check_consistent(20);
 
   // Refusals of LU creation.
@@ -503,6 +526,7 @@ void format_cases() {
   CHECK_EQ(ps->lu[200].status, 2);
   CHECK_EQ(ps->lu[201].waiting_number, 1);
   CHECK_EQ(lu(200).correction_status, 2);
+  list_matches_singles();
   CHECK_EQ(KX_LogicalUnitFormat(kUnit, 200, 1), kBusy);
   p->lu_count = 0;
   CHECK_EQ(KX_EntryParityCorrectionList(kUnit, &S, p.get()), kBadParameter);
