@@ -20,6 +20,7 @@ import java.time.ZonedDateTime;
 import java.time.format.DateTimeFormatter;
 import java.util.ArrayList;
 import java.util.Arrays;
+import java.util.Comparator;
 import java.util.LinkedHashMap;
 import java.util.List;
 import java.util.Locale;
@@ -459,6 +460,9 @@ public final class SimBench {
 
             table(cold, kill);
             System.out.printf("Load average at the end: %s%n", load());
+            try (var files = Files.walk(work)) {
+                for (Path f : files.sorted(Comparator.reverseOrder()).toList()) Files.delete(f);
+            }
         }
 
         /** The calls timed in the simulator alone (bench_sim_calls), on a database a JVM child seeded. */
