@@ -12,6 +12,7 @@
 #include "sim/core/call.h"
 #include "sim/core/text.h"
 #include "sim/model/accounts.h"
+#include "sim/model/firmware.h"
 #include "sim/model/model.h"
 #include "sim/model/storage.h"
 
@@ -481,8 +482,8 @@ int KX_GetUnitCondition(const char* unit, const KXSessionInfoRec* session, int a
     std::string u = c.where;
     (void)a;  // the report is the same for every value
     auto& r = out(condition, "condition");
-    out_text(r.micro, "0950/A");
-    out_text(r.micro_pair, "0950/A");
+    out_text(r.micro, sim::micro_revision(c.db));
+    out_text(r.micro_pair, sim::micro_revision(c.db));
     r.max_slot = 2;
     for (int i = 0; i < 2; ++i) {
       r.cache[i] = {1, kNormal};

@@ -524,6 +524,36 @@ void expand_lu(Db& db, int lun, int64_t add) {
   u.bind(add).bind(lun).run();
 }
 
+std::optional<LuPlace> lu_place(Db& db, int lun) {
+  auto s = db.sql("SELECT rg, current_ctl, size FROM lus WHERE number=?1");
+  s.bind(lun);
+  if (!s.step()) return std::nullopt;
+  return LuPlace{s.i(0), s.i(1), s.i64(2)};
+}
+
+void swap_lu_places(Db& db, int a, int b) {
+  auto pa = lu_place(db, a), pb = lu_place(db, b);
+  if (!pa || !pb) fail(kNoSuchObject, "no LU " + std::to_string(pa ? b : a));
+  if (pa->blocks != pb->blocks) fail(kBadParameter, "LUs of different sizes cannot trade places");
+  int64_t start_a = 0, start_b = 0;
+  {
+    auto s = db.sql("SELECT start FROM lus WHERE number=?1");
+    s.bind(a);
+    if (s.step()) start_a = s.i64(0);
+  }
+  {
+    auto s = db.sql("SELECT start FROM lus WHERE number=?1");
+    s.bind(b);
+    if (s.step()) start_b = s.i64(0);
+  }
+  {
+    auto u = db.sql("UPDATE lus SET rg=?2, start=?3 WHERE number=?1");
+    u.bind(a).bind(pb->rg).bind(start_b).run();
+  }
+  auto u = db.sql("UPDATE lus SET rg=?2, start=?3 WHERE number=?1");
+  u.bind(b).bind(pa->rg).bind(start_a).run();
+}
+
 void hold_lu(Db& db, int lun, std::string_view holder) {
   if (!lu_exists(db, lun)) fail(kNoSuchObject, "no LU " + std::to_string(lun));
   auto s = db.sql("INSERT OR IGNORE INTO lu_holds(lun, holder) VALUES(?1,?2)");

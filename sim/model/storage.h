@@ -146,6 +146,16 @@ constexpr int64_t kRebuildRate = 1000000000 / kBlockBytes;        // drive rebui
 // True while a full or quick format of the LU is entered and not finished.
 bool lu_formatting(Db& db, int64_t now, int lun);
 
+// Where an LU lies: its RAID group, its current controller and its size.
+struct LuPlace {
+  int rg = -1, ctl = 0;
+  int64_t blocks = 0;
+};
+std::optional<LuPlace> lu_place(Db& db, int lun);
+// Two LUs of one size trade their places (RAID group and start): what a
+// finished volume migration does.  kNoSuchObject / kBadParameter.
+void swap_lu_places(Db& db, int a, int b);
+
 // Another family marks an LU as its own (a pool member, a mapped LU); a held
 // LU cannot be deleted, renumbered or invalidated.
 void hold_lu(Db& db, int lun, std::string_view holder);
