@@ -265,7 +265,7 @@ int join_micro(Db& db, int64_t now, MicroKind kind, const std::string& path, boo
       .bind(bytes)
       .bind(static_cast<int>(parts.size()))
       .bind(first.boot_wait)
-      .bind(now + 1 + bytes / kJoinRate)
+      .bind(now + 5 + bytes / kJoinRate)
       .run();
   return static_cast<int>(parts.size());
 }

@@ -408,6 +408,8 @@ void start_migrations(Db& db, int64_t now, const std::vector<MigrationPair>& req
     if (!named.insert(p.pvol).second || !named.insert(p.svol).second)
       fail(kBadParameter, "an LU is named twice in the request");
     if (p.pace < 0 || p.pace > 2) fail(kBadParameter, "copy pace " + std::to_string(p.pace) + " is not 0, 1 or 2");
+  }
+  for (const auto& p : req) {
     need(db, p.pvol, "source");
     need(db, p.svol, "reserve LU");
     if (lu_role(db, p.svol) != kReserveHolder) fail(kBusy, lu_name(p.svol) + " is not a reserve LU");
