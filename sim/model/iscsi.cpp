@@ -821,17 +821,16 @@ PingState ping_state(Db& db, const IscsiPort& p, int64_t now) {
   if (p.ping_ip.empty() || p.ping_count <= 0) return st;
   int64_t elapsed = now - p.ping_start;
   st.executed = static_cast<int>(std::clamp<int64_t>(elapsed, 0, p.ping_count));
-  // Addresses that answer: the port itself, its gateway, the hosts attached
-  // to it and the other iSCSI ports; each only in the port's subnet, or
-  // beyond it through a gateway.
+  // Addresses that answer: the port itself, its gateway, the simulated hosts
+  // and the other iSCSI ports; in the port's subnet, or beyond it only
+  // through a gateway.
   uint32_t target = 0, ip = 0, mask = 0;
   bool answers = false;
   if (parse_ipv4(p.ping_ip, target) && parse_ipv4(p.ip, ip) && parse_mask(p.subnet, mask)) {
     std::set<std::string> answering{p.ip};
     if (!p.gateway.empty()) answering.insert(p.gateway);
     {
-      auto s = db.sql("SELECT ip FROM iscsi_hosts WHERE ctl=?1 AND port=?2");
-      s.bind(p.ctl).bind(p.port);
+      auto s = db.sql("SELECT ip FROM iscsi_hosts");
       while (s.step()) answering.insert(s.text(0));
     }
     {
