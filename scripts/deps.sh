@@ -27,7 +27,7 @@ sudo_cmd=""
 [ "$(id -u)" -ne 0 ] && sudo_cmd="sudo"
 
 packages=(cmake make g++ g++-multilib openjdk-17-jdk-headless junit4 file binutils
-          dpkg-dev lintian python3 libsqlite3-dev libsodium-dev
+          dpkg-dev lintian python3 libsqlite3-dev libsodium-dev gcovr
           libc6:i386 zlib1g:i386 libgcc-s1:i386 libstdc++6:i386
           libsqlite3-0:i386 libsodium23:i386)
 # shellcheck disable=SC2206
