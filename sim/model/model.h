@@ -18,6 +18,7 @@ void create_core(Db& db, const Options& o);      // units, discovery, audit, fau
 void create_accounts(Db& db, const Options& o);  // roles, accounts, sessions
 void create_storage(Db& db, const Options& o);   // drives, RAID groups, LUs, formatting
 void create_pools(Db& db, const Options& o);     // pools, unified LUs, wizard, LU cache
+void create_hosts(Db& db, const Options& o);     // host groups, mapping, FC ports, LU guard
 void create_perf(Db& db, const Options& o);      // workload seed of the statistics
 void create_firmware(Db& db, const Options& o);     // microcode images and revisions
 void create_replication(Db& db, const Options& o);  // copy pairs, command devices, DMLUs, migration

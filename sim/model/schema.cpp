@@ -11,6 +11,7 @@ void create_model(Db& db) {
   create_accounts(db, o);
   create_storage(db, o);
   create_pools(db, o);
+  create_hosts(db, o);
   create_perf(db, o);
   create_firmware(db, o);
   create_replication(db, o);
