@@ -8,6 +8,7 @@
 // whole table refuses anything but empty there.
 #include <algorithm>
 #include <cstring>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -335,6 +336,8 @@ int KX_SetLuMappingListAll(const char* unit, const KXSessionInfoRec* session, co
       }
       return none || zeros;
     };
+    std::set<std::array<int, 3>> made;
+    for (const auto& g : sim::host_groups(c.db)) made.insert({g.ctl, g.port, g.number});
     std::vector<std::pair<std::array<int, 3>, std::array<int, sim::kHostLuns>>> todo;
     for (int a = 0; a < sim::kHostCtls; ++a)
       for (int b = 0; b < sim::kHostPorts; ++b) {
@@ -342,8 +345,7 @@ int KX_SetLuMappingListAll(const char* unit, const KXSessionInfoRec* session, co
         bool exists = sim::port_exists(c.db, a, b);
         if (p.security > 1) fail(sim::kBadParameter, "security of port " + std::to_string(a) + "/" + std::to_string(b) + " is not 0 or 1");
         for (int h = 0; h < sim::kHostGroupSlots; ++h) {
-          bool made = exists && h < sim::kHostGroups && sim::find_hg(c.db, a, b, h);
-          if (!made) {
+          if (!exists || !made.count({a, b, h})) {
             if (!empty(p.hg[h])) fail(sim::kNoSuchObject, "mapping given for " + hg_name(a, b, h) + ", which is not made");
             continue;
           }
