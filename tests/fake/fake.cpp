@@ -6,6 +6,10 @@
 
 #include <dlfcn.h>
 
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/asan_interface.h>
+#endif
+
 #include <algorithm>
 #include <cstdlib>
 #include <map>
@@ -25,6 +29,18 @@ constexpr uint8_t kPoisonByte = 0xA5;
 // A run this long of the poison byte in a block handed to the library means
 // the block was not cleared.
 constexpr size_t kPoisonRun = 8;
+
+// In an AddressSanitizer build the guard bytes and the released blocks kept
+// for reuse are unaddressable to ASan as well: a read or write of them is
+// reported where it happens, with its stack, not only by the checks on
+// release.  The seam itself makes a region addressable before it touches it.
+#ifdef __SANITIZE_ADDRESS__
+void hide(const void* p, size_t n) { ASAN_POISON_MEMORY_REGION(p, n); }
+void show(const void* p, size_t n) { ASAN_UNPOISON_MEMORY_REGION(p, n); }
+#else
+void hide(const void*, size_t) {}
+void show(const void*, size_t) {}
+#endif
 
 struct Block {
   size_t bytes = 0;
@@ -194,6 +210,7 @@ extern "C" __attribute__((visibility("default"))) void* pernix_seam_alloc(size_t
     raw = spare->second;
     s.spare_block_bytes -= spare->first;
     s.spare_blocks.erase(spare);
+    show(raw, bytes + 2 * kGuard);
   } else {
     raw = static_cast<uint8_t*>(std::malloc(bytes + 2 * kGuard));
     if (raw == nullptr) return nullptr;
@@ -201,6 +218,8 @@ extern "C" __attribute__((visibility("default"))) void* pernix_seam_alloc(size_t
   }
   std::memset(raw, kGuardByte, kGuard);
   std::memset(raw + kGuard + bytes, kGuardByte, kGuard);
+  hide(raw, kGuard);
+  hide(raw + kGuard + bytes, kGuard);
   s.live[raw + kGuard] = Block{bytes};
   s.live_bytes += bytes;
   s.peak_bytes = std::max(s.peak_bytes, s.live_bytes);
@@ -223,6 +242,7 @@ extern "C" __attribute__((visibility("default"))) void pernix_seam_free(void* bl
                        std::to_string(bytes));
   }
   auto* raw = static_cast<uint8_t*>(block) - kGuard;
+  show(raw, b.bytes + 2 * kGuard);
   for (size_t i = 0; i < kGuard; ++i) {
     if (raw[i] != kGuardByte || raw[kGuard + b.bytes + i] != kGuardByte) {
       s.faults.push_back("guard bytes of a " + std::to_string(b.bytes) + "-byte block overwritten");
@@ -246,6 +266,7 @@ extern "C" __attribute__((visibility("default"))) void pernix_seam_free(void* bl
   if (s.spare_block_bytes + b.bytes + 2 * kGuard <= kSpareMax) {
     s.spare_blocks.emplace(b.bytes + 2 * kGuard, raw);
     s.spare_block_bytes += b.bytes + 2 * kGuard;
+    hide(raw, b.bytes + 2 * kGuard);
   } else {
     std::free(raw);
   }
@@ -320,6 +341,7 @@ FAKE_JNI(void, reset)(JNIEnv*, jclass) {
     s.faults.push_back(std::to_string(s.live.size()) + " block(s) never released");
     for (auto& [block, b] : s.live) {
       auto* raw = static_cast<uint8_t*>(const_cast<void*>(block)) - fake::kGuard;
+      fake::show(raw, b.bytes + 2 * fake::kGuard);
       std::free(raw);
     }
     s.live.clear();
