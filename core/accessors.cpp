@@ -41,12 +41,6 @@ LocalRef<Array> array_field(JNIEnv* env, jobject obj, const char* name, const ch
 
 // ---------------------------------------------------------------- readers
 
-jint jni_get_int(JNIEnv* env, jobject obj, const char* name) {
-  jfieldID fid = lookup(env, obj, name, "I");
-  if (fid == nullptr) return -1;
-  return env->GetIntField(obj, fid);
-}
-
 jobject jni_get_object(JNIEnv* env, jobject obj, const char* name, const char* sig) {
   jfieldID fid = lookup(env, obj, name, sig);
   if (fid == nullptr) return nullptr;
@@ -56,26 +50,6 @@ jobject jni_get_object(JNIEnv* env, jobject obj, const char* name, const char* s
 int jni_get_string(JNIEnv* env, jobject obj, const char* name, char* dst, size_t n) {
   auto str = array_field<jstring>(env, obj, name, kStringSig);
   return kx::string_into(env, str.get(), dst, n);
-}
-
-int jni_get_str_array(JNIEnv* env, jobject obj, const char* name, char* dst, size_t n,
-                      size_t capacity) {
-  auto arr = array_field<jobjectArray>(env, obj, name, "[Ljava/lang/String;");
-  if (!arr) return kx::kMarshal;
-  size_t length = static_cast<size_t>(env->GetArrayLength(arr.get()));
-  for (size_t k = 0; k < std::min(length, capacity); ++k) {
-    LocalRef<jstring> str(env, static_cast<jstring>(env->GetObjectArrayElement(arr.get(), static_cast<jsize>(k))));
-    if (!str || pending(env)) return kx::kMarshal;
-    UtfChars chars(env, str.get());
-    if (!chars) return kx::kMarshal;
-    copy_cut(dst + k * n, chars.get(), n);
-  }
-  return kx::kOk;
-}
-
-int jni_get_int_array(JNIEnv* env, jobject obj, const char* name, int32_t* dst, jsize n) {
-  auto arr = array_field<jintArray>(env, obj, name, "[I");
-  return kx::int_array_into(env, arr.get(), dst, n);
 }
 
 namespace {
@@ -92,30 +66,6 @@ int each_row(JNIEnv* env, jobjectArray outer, jsize count, Copy copy) {
 }
 }  // namespace
 
-int jni_get_int_2array(JNIEnv* env, jobject obj, const char* name, int32_t* dst, jsize rows,
-                       jsize cols) {
-  auto arr = array_field<jobjectArray>(env, obj, name, "[[I");
-  return kx::int_rows_into(env, arr.get(), dst, rows, cols);
-}
-
-int jni_get_int_3array(JNIEnv* env, jobject obj, const char* name, int32_t* dst, jsize d1,
-                       jsize d2, jsize d3) {
-  auto arr = array_field<jobjectArray>(env, obj, name, "[[[I");
-  if (!arr) return kx::kMarshal;
-  return each_row(env, arr.get(), d1, [&](jsize i, jarray plane) {
-    return each_row(env, static_cast<jobjectArray>(plane), d2, [&](jsize j, jarray row) {
-      env->GetIntArrayRegion(static_cast<jintArray>(row), 0, d3,
-                             reinterpret_cast<jint*>(dst) + (static_cast<size_t>(i) * d2 + j) * d3);
-      return kx::kOk;
-    });
-  });
-}
-
-int jni_get_byte_array(JNIEnv* env, jobject obj, const char* name, void* dst, jsize n) {
-  auto arr = array_field<jbyteArray>(env, obj, name, "[B");
-  return kx::byte_array_into(env, arr.get(), dst, n);
-}
-
 int jni_get_byte_2array(JNIEnv* env, jobject obj, const char* name, void* dst, jsize rows,
                         jsize cols) {
   auto arr = array_field<jobjectArray>(env, obj, name, "[[B");
@@ -125,24 +75,6 @@ int jni_get_byte_2array(JNIEnv* env, jobject obj, const char* name, void* dst, j
                             static_cast<jbyte*>(dst) + static_cast<size_t>(r) * cols);
     return kx::kOk;
   });
-}
-
-int jni_char_array_from_int_array(JNIEnv* env, jobject obj, const char* name, void* dst,
-                                  size_t capacity) {
-  auto arr = array_field<jintArray>(env, obj, name, "[I");
-  return kx::low_bytes_into(env, arr.get(), dst, capacity);
-}
-
-double jni_get_double(JNIEnv* env, jobject obj, const char* name) {
-  jfieldID fid = lookup(env, obj, name, "D");
-  if (fid == nullptr) return -1.0;
-  return env->GetDoubleField(obj, fid);
-}
-
-double jni_get_double_from_short(JNIEnv* env, jobject obj, const char* name) {
-  jfieldID fid = lookup(env, obj, name, "S");
-  if (fid == nullptr) return -1.0;
-  return static_cast<double>(env->GetShortField(obj, fid)) / 100.0;
 }
 
 int jni_jstring_to_char_array(JNIEnv* env, jstring str, char* dst, size_t n) {
@@ -156,39 +88,7 @@ int jni_jstring_to_char_array(JNIEnv* env, jstring str, char* dst, size_t n) {
   return kx::kOk;
 }
 
-int jni_get_string_multi_byte(JNIEnv* env, jstring str, char* dst, size_t n) {
-  if (str == nullptr || pending(env) || n == 0) return kx::kMarshal;
-  LocalRef<jclass> cls(env, env->GetObjectClass(str));
-  if (!cls) return kx::kMarshal;
-  jmethodID get_bytes = env->GetMethodID(cls.get(), "getBytes", "(Ljava/lang/String;)[B");
-  if (get_bytes == nullptr) return kx::kMarshal;
-  LocalRef<jstring> charset(env, env->NewStringUTF("EUC_JP"));
-  if (!charset) return kx::kMarshal;
-  LocalRef<jbyteArray> bytes(
-      env, static_cast<jbyteArray>(env->CallObjectMethod(str, get_bytes, charset.get())));
-  if (pending(env) || !bytes) return kx::kMarshal;
-  jbyte* elems = env->GetByteArrayElements(bytes.get(), nullptr);
-  if (elems == nullptr) return kx::kMarshal;
-  size_t length = static_cast<size_t>(env->GetArrayLength(bytes.get()));
-  size_t copied = length < n ? length : n - 1;
-  if (copied > 0) {
-    size_t text = strnlen(reinterpret_cast<const char*>(elems), copied);
-    std::memcpy(dst, elems, text);
-    std::memset(dst + text, 0, copied - text);
-  }
-  dst[copied] = '\0';
-  env->ReleaseByteArrayElements(bytes.get(), elems, JNI_ABORT);
-  return kx::kOk;
-}
-
 // ---------------------------------------------------------------- writers
-
-int jni_set_int(JNIEnv* env, jobject obj, const char* name, jint value) {
-  jfieldID fid = lookup(env, obj, name, "I");
-  if (fid == nullptr) return kx::kMarshal;
-  env->SetIntField(obj, fid, value);
-  return pending(env) ? kx::kMarshal : kx::kOk;
-}
 
 int jni_set_object(JNIEnv* env, jobject obj, const char* name, const char* sig, jobject value) {
   jfieldID fid = lookup(env, obj, name, sig);
@@ -233,38 +133,6 @@ int jni_set_string_unicode(JNIEnv* env, jobject obj, const char* name, const cha
   return pending(env) ? kx::kMarshal : kx::kOk;
 }
 
-int jni_set_str_array(JNIEnv* env, jobject obj, const char* name, const char* src, jsize count,
-                      jsize n) {
-  // The array is as long as the element size, whatever the count says.
-  LocalRef<jobjectArray> arr(env, new_object_array(env, "java/lang/String", n));
-  if (!arr) return kx::kMarshal;
-  for (jsize k = 0; k < std::min(count, n); ++k) {
-    LocalRef<jstring> str(env, env->NewStringUTF(src + static_cast<size_t>(k) * n));
-    if (!str) return kx::kMarshal;
-    env->SetObjectArrayElement(arr.get(), k, str.get());
-    if (pending(env)) return kx::kMarshal;
-  }
-  jni_set_object(env, obj, name, "[Ljava/lang/String;", arr.get());
-  return kx::kOk;
-}
-
-int jni_set_int_array(JNIEnv* env, jobject obj, const char* name, const int32_t* src, jsize n) {
-  if (pending(env)) return kx::kMarshal;
-  LocalRef<jintArray> arr(env, env->NewIntArray(n));
-  if (!arr) return kx::kMarshal;
-  env->SetIntArrayRegion(arr.get(), 0, n, reinterpret_cast<const jint*>(src));
-  if (pending(env)) return kx::kMarshal;
-  return jni_set_object(env, obj, name, "[I", arr.get());
-}
-
-int jni_set_byte_array(JNIEnv* env, jobject obj, const char* name, const void* src, jsize n) {
-  // Writes into the array the field already holds; never makes one.
-  auto arr = array_field<jbyteArray>(env, obj, name, "[B");
-  if (!arr) return kx::kMarshal;
-  env->SetByteArrayRegion(arr.get(), 0, n, static_cast<const jbyte*>(src));
-  return pending(env) ? kx::kMarshal : kx::kOk;
-}
-
 jintArray jni_create_int_array_from_char(JNIEnv* env, const void* src, jsize n) {
   if (pending(env)) return nullptr;
   LocalRef<jintArray> arr(env, env->NewIntArray(n));
@@ -277,13 +145,6 @@ jintArray jni_create_int_array_from_char(JNIEnv* env, const void* src, jsize n) 
   return arr.release();
 }
 
-int jni_set_double(JNIEnv* env, jobject obj, const char* name, double value) {
-  jfieldID fid = lookup(env, obj, name, "D");
-  if (fid == nullptr) return kx::kMarshal;
-  env->SetDoubleField(obj, fid, value);
-  return pending(env) ? kx::kMarshal : kx::kOk;
-}
-
 int16_t kx::fixed_point_short(double value) {
   double scaled = std::trunc(value * 100.0);
   // Out of range or NaN gives the integer-indefinite value, as the x86
@@ -291,13 +152,6 @@ int16_t kx::fixed_point_short(double value) {
   int32_t whole = (scaled >= -2147483648.0 && scaled < 2147483648.0) ? static_cast<int32_t>(scaled)
                                                                       : INT32_MIN;
   return static_cast<int16_t>(static_cast<uint16_t>(static_cast<uint32_t>(whole) & 0xFFFFu));
-}
-
-int jni_set_short_from_double(JNIEnv* env, jobject obj, const char* name, double value) {
-  jfieldID fid = lookup(env, obj, name, "S");
-  if (fid == nullptr) return kx::kMarshal;
-  env->SetShortField(obj, fid, kx::fixed_point_short(value));
-  return pending(env) ? kx::kMarshal : kx::kOk;
 }
 
 // ---------------------------------------------------------------- objects
@@ -319,20 +173,6 @@ jobjectArray new_object_array(JNIEnv* env, const char* cls_path, jsize length) {
   LocalRef<jclass> cls(env, find_class(env, cls_path));
   if (!cls) return nullptr;
   return env->NewObjectArray(length, cls.get(), nullptr);
-}
-
-int print_jobject(JNIEnv* env, jobject obj) {
-  LocalRef<jclass> system(env, find_class(env, "java/lang/System"));
-  if (!system) return -1;
-  jfieldID out_id = env->GetStaticFieldID(system.get(), "out", "Ljava/io/PrintStream;");
-  if (out_id == nullptr) return -1;
-  LocalRef<jobject> out(env, env->GetStaticObjectField(system.get(), out_id));
-  LocalRef<jclass> stream(env, find_class(env, "java/io/PrintStream"));
-  if (!out || !stream) return -1;
-  jmethodID println = env->GetMethodID(stream.get(), "println", "(Ljava/lang/Object;)V");
-  if (println == nullptr) return -1;
-  env->CallVoidMethod(out.get(), println, obj);
-  return 0;
 }
 
 // ------------------------------------------------ copies from a fetched value

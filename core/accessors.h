@@ -4,8 +4,8 @@
 // helpers remember nothing.  (The record walker, core/record.cpp, remembers
 // lookups within one native call and uses the copy steps at the end of this
 // header on the values it fetched itself.)  Status results are 0 or kx::kMarshal;
-// the value readers report failure through their value (-1, -1.0, null) and
-// leave the JVM's exception pending for the caller to test.
+// the object reader reports failure by returning null and leaves the JVM's
+// exception pending for the caller to test.
 //
 // A helper entered with an exception already pending makes no JNI call and
 // fails as if its first call had failed.  Local references a helper creates
@@ -18,51 +18,26 @@
 #include <cstdint>
 
 // ---- readers: Java field into C ----
-jint jni_get_int(JNIEnv* env, jobject obj, const char* name);
 // Returns a new local reference the caller owns, or null.
 jobject jni_get_object(JNIEnv* env, jobject obj, const char* name, const char* sig);
 int jni_get_string(JNIEnv* env, jobject obj, const char* name, char* dst, size_t n);
-// Copies the String[] field into consecutive n-byte buffers, at most
-// `capacity` of them.
-int jni_get_str_array(JNIEnv* env, jobject obj, const char* name, char* dst, size_t n,
-                      size_t capacity);
-int jni_get_int_array(JNIEnv* env, jobject obj, const char* name, int32_t* dst, jsize n);
-int jni_get_int_2array(JNIEnv* env, jobject obj, const char* name, int32_t* dst, jsize rows,
-                       jsize cols);
-int jni_get_int_3array(JNIEnv* env, jobject obj, const char* name, int32_t* dst, jsize d1,
-                       jsize d2, jsize d3);
-int jni_get_byte_array(JNIEnv* env, jobject obj, const char* name, void* dst, jsize n);
 int jni_get_byte_2array(JNIEnv* env, jobject obj, const char* name, void* dst, jsize rows,
                         jsize cols);
-// Low byte of each element of the int[] field, at most `capacity` bytes.
-int jni_char_array_from_int_array(JNIEnv* env, jobject obj, const char* name, void* dst,
-                                  size_t capacity);
-double jni_get_double(JNIEnv* env, jobject obj, const char* name);
-double jni_get_double_from_short(JNIEnv* env, jobject obj, const char* name);
 // String argument into an n-byte buffer.  An empty (or null) String yields an
 // empty C string and kx::kMarshal.
 int jni_jstring_to_char_array(JNIEnv* env, jstring str, char* dst, size_t n);
-int jni_get_string_multi_byte(JNIEnv* env, jstring str, char* dst, size_t n);
 
 // ---- writers: C into a Java object field ----
-int jni_set_int(JNIEnv* env, jobject obj, const char* name, jint value);
 int jni_set_object(JNIEnv* env, jobject obj, const char* name, const char* sig, jobject value);
 int jni_set_string(JNIEnv* env, jobject obj, const char* name, const char* value);
 int jni_set_string_unicode(JNIEnv* env, jobject obj, const char* name, const char* value,
                            size_t n);
-int jni_set_str_array(JNIEnv* env, jobject obj, const char* name, const char* src, jsize count,
-                      jsize n);
-int jni_set_int_array(JNIEnv* env, jobject obj, const char* name, const int32_t* src, jsize n);
-int jni_set_byte_array(JNIEnv* env, jobject obj, const char* name, const void* src, jsize n);
 // New int[n], element i the sign-extended byte i of src; null on failure.
 jintArray jni_create_int_array_from_char(JNIEnv* env, const void* src, jsize n);
-int jni_set_double(JNIEnv* env, jobject obj, const char* name, double value);
-int jni_set_short_from_double(JNIEnv* env, jobject obj, const char* name, double value);
 
 // ---- objects and arrays ----
 jobject jni_new_object(JNIEnv* env, const char* cls);
 jobjectArray new_object_array(JNIEnv* env, const char* cls, jsize length);
-int print_jobject(JNIEnv* env, jobject obj);
 
 namespace kx {
 

@@ -45,15 +45,6 @@ PROBE(jint, getString)(JNIEnv* env, jclass, jobject obj, jstring field, jbyteArr
   return rc;
 }
 
-PROBE(jint, getStrArray)(JNIEnv* env, jclass, jobject obj, jstring field, jint n, jbyteArray dst) {
-  auto buf = buffer_from(env, dst);
-  Utf name(env, field);
-  jint rc = jni_get_str_array(env, obj, name.chars, buf.data(), static_cast<size_t>(n),
-                              buf.size() / static_cast<size_t>(n));
-  copy_back(env, buf, dst);
-  return rc;
-}
-
 PROBE(jint, jstringToChars)(JNIEnv* env, jclass, jstring str, jbyteArray dst) {
   auto buf = buffer_from(env, dst);
   jint rc = jni_jstring_to_char_array(env, str, buf.data(), buf.size());
@@ -61,34 +52,10 @@ PROBE(jint, jstringToChars)(JNIEnv* env, jclass, jstring str, jbyteArray dst) {
   return rc;
 }
 
-PROBE(jint, multiByte)(JNIEnv* env, jclass, jstring str, jbyteArray dst) {
+// The low bytes of ints, at most as many as dst holds, into dst's current bytes.
+PROBE(jint, bytesFromInts)(JNIEnv* env, jclass, jintArray ints, jbyteArray dst) {
   auto buf = buffer_from(env, dst);
-  jint rc = jni_get_string_multi_byte(env, str, buf.data(), buf.size());
-  copy_back(env, buf, dst);
-  return rc;
-}
-
-PROBE(jint, getIntArray)(JNIEnv* env, jclass, jobject obj, jstring field, jintArray dst) {
-  jsize n = env->GetArrayLength(dst);
-  std::vector<int32_t> buf(static_cast<size_t>(n));
-  Utf name(env, field);
-  jint rc = jni_get_int_array(env, obj, name.chars, buf.data(), n);
-  if (!env->ExceptionCheck()) env->SetIntArrayRegion(dst, 0, n, reinterpret_cast<const jint*>(buf.data()));
-  return rc;
-}
-
-PROBE(jint, getInt2Array)(JNIEnv* env, jclass, jobject obj, jstring field, jint rows, jint cols, jintArray dst) {
-  std::vector<int32_t> buf(static_cast<size_t>(rows * cols));
-  Utf name(env, field);
-  jint rc = jni_get_int_2array(env, obj, name.chars, buf.data(), rows, cols);
-  if (!env->ExceptionCheck()) env->SetIntArrayRegion(dst, 0, rows * cols, reinterpret_cast<const jint*>(buf.data()));
-  return rc;
-}
-
-PROBE(jint, bytesFromInts)(JNIEnv* env, jclass, jobject obj, jstring field, jbyteArray dst) {
-  auto buf = buffer_from(env, dst);
-  Utf name(env, field);
-  jint rc = jni_char_array_from_int_array(env, obj, name.chars, buf.data(), buf.size());
+  jint rc = kx::low_bytes_into(env, ints, buf.data(), buf.size());
   copy_back(env, buf, dst);
   return rc;
 }
@@ -98,38 +65,13 @@ PROBE(jintArray, intsFromBytes)(JNIEnv* env, jclass, jbyteArray src) {
   return jni_create_int_array_from_char(env, buf.data(), static_cast<jsize>(buf.size()));
 }
 
-PROBE(jint, setByteArray)(JNIEnv* env, jclass, jobject obj, jstring field, jbyteArray src) {
-  auto buf = buffer_from(env, src);
-  Utf name(env, field);
-  return jni_set_byte_array(env, obj, name.chars, buf.data(), static_cast<jsize>(buf.size()));
-}
-
-PROBE(jint, setStrArray)(JNIEnv* env, jclass, jobject obj, jstring field, jbyteArray src, jint count, jint n) {
-  auto buf = buffer_from(env, src);
-  Utf name(env, field);
-  return jni_set_str_array(env, obj, name.chars, buf.data(), count, n);
-}
-
 PROBE(jint, setStringUnicode)(JNIEnv* env, jclass, jobject obj, jstring field, jbyteArray src) {
   auto buf = buffer_from(env, src);
   Utf name(env, field);
   return jni_set_string_unicode(env, obj, name.chars, buf.data(), buf.size());
 }
 
-PROBE(jint, setShortFromDouble)(JNIEnv* env, jclass, jobject obj, jstring field, jdouble v) {
-  Utf name(env, field);
-  return jni_set_short_from_double(env, obj, name.chars, v);
-}
-
-PROBE(jdouble, getDoubleFromShort)(JNIEnv* env, jclass, jobject obj, jstring field) {
-  Utf name(env, field);
-  return jni_get_double_from_short(env, obj, name.chars);
-}
-
-PROBE(jint, getInt)(JNIEnv* env, jclass, jobject obj, jstring field) {
-  Utf name(env, field);
-  return jni_get_int(env, obj, name.chars);
-}
+PROBE(jshort, fixedPointShort)(JNIEnv*, jclass, jdouble v) { return kx::fixed_point_short(v); }
 
 PROBE(jint, errorThrow)(JNIEnv* env, jclass, jint code) { return errorThrow(env, code); }
 

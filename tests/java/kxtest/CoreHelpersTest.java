@@ -67,19 +67,15 @@ public class CoreHelpersTest extends BridgeTest {
         assertArrayEquals(new int[] {1, -2, -1, -128, 127},
                 CoreProbe.intsFromBytes(new byte[] {1, (byte) 0xFE, (byte) 0xFF, (byte) 0x80, 0x7F}));
 
-        Fields f = new Fields();
-        f.ints = new int[] {258, -1, 0x7F};
         byte[] dst = filled(2, 0x55); // capacity 2: the third element is not written
-        assertEquals(0, CoreProbe.bytesFromInts(f, "ints", dst));
+        assertEquals(0, CoreProbe.bytesFromInts(new int[] {258, -1, 0x7F}, dst));
         assertArrayEquals(new byte[] {0x02, (byte) 0xFF}, dst);
 
-        f.ints = new int[0];
         dst = filled(3, 0x55);
-        assertEquals(0, CoreProbe.bytesFromInts(f, "ints", dst));
+        assertEquals(0, CoreProbe.bytesFromInts(new int[0], dst));
         assertArrayEquals(new byte[] {0, 0x55, 0x55}, dst);
 
-        f.ints = null;
-        assertEquals(2817, CoreProbe.bytesFromInts(f, "ints", new byte[2]));
+        assertEquals(2817, CoreProbe.bytesFromInts(null, new byte[2]));
     }
 
     @Test
@@ -92,11 +88,9 @@ public class CoreHelpersTest extends BridgeTest {
 
     @Test
     public void fixedPointShortsKeepTwoDecimalsAndWrap() {
-        Fields f = new Fields();
         double[][] cases = {{12.345, 1234}, {-0.019, -1}, {400.0, -25536}, {99.999, 9999}, {0.0, 0}};
         for (double[] c : cases) {
-            assertEquals(0, CoreProbe.setShortFromDouble(f, "fixed", c[0]));
-            assertEquals("value " + c[0], (short) c[1], f.fixed);
+            assertEquals("value " + c[0], (short) c[1], CoreProbe.fixedPointShort(c[0]));
         }
     }
 }

@@ -9,19 +9,11 @@ public final class CoreProbe {
     private CoreProbe() {}
 
     public static native int getString(Object o, String field, byte[] dst);
-    public static native int getStrArray(Object o, String field, int elementSize, byte[] dst);
     public static native int jstringToChars(String s, byte[] dst);
-    public static native int multiByte(String s, byte[] dst);
-    public static native int getIntArray(Object o, String field, int[] dst);
-    public static native int getInt2Array(Object o, String field, int rows, int cols, int[] dst);
-    public static native int bytesFromInts(Object o, String field, byte[] dst);
+    public static native int bytesFromInts(int[] ints, byte[] dst);
     public static native int[] intsFromBytes(byte[] src);
-    public static native int setByteArray(Object o, String field, byte[] src);
-    public static native int setStrArray(Object o, String field, byte[] src, int count, int elementSize);
     public static native int setStringUnicode(Object o, String field, byte[] buffer);
-    public static native int setShortFromDouble(Object o, String field, double v);
-    public static native double getDoubleFromShort(Object o, String field);
-    public static native int getInt(Object o, String field);
+    public static native short fixedPointShort(double v);
     public static native int errorThrow(int code);
     public static native int classNotFoundThrow(String path);
     public static native Object newObject(String classPath);

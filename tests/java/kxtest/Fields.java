@@ -1,12 +1,6 @@
 package kxtest;
 
-/** An object with one field of each kind the helpers read and write. */
+/** An object with a String field for the field helpers to read. */
 public class Fields {
-    public int i;
     public String s;
-    public String[] strs;
-    public int[] ints;
-    public int[][] grid;
-    public byte[] bytes;
-    public short fixed;
 }
