@@ -1,51 +1,8 @@
 // The file-based user table, the user LAN settings, the audit log and the
 // import of a Fibre Channel permission list.
-#include <algorithm>
-
 #include "account/records.h"
 
 using namespace kx;
-
-namespace {
-
-// The number of permissions an import found, in the native's own frame.
-struct ImportCount {
-  int value = 0;
-  bool prepare(JNIEnv*) { return true; }
-  int* arg() { return &value; }
-};
-
-// The permission table an import fills, returned as an array of exactly as
-// many elements as the library counted.  Only the 128 the table holds are
-// converted; elements past them stay null, as does any element that cannot
-// be built.  A negative count cannot make an array: the JVM's
-// NegativeArraySizeException reaches the caller.
-struct ImportedPermissions {
-  explicit ImportedPermissions(const int& n) : count(n) {}
-
-  const int& count;
-  Records<FibreInformationPermissionRec> table;
-  using result_type = jobjectArray;
-
-  bool prepare(JNIEnv*) {
-    table = Records<FibreInformationPermissionRec>(PERNIX_MAX_PERMISSIONS);
-    return static_cast<bool>(table);
-  }
-  FibreInformationPermissionRec* arg() { return table.get(); }
-  jobjectArray convert(JNIEnv* env, int&) {
-    LocalRef<jobjectArray> arr(env, new_object_array(env, rec::FibreInformationPermission.cls, count));
-    if (!arr) return nullptr;
-    for (int i = 0; i < std::min(count, static_cast<int>(PERNIX_MAX_PERMISSIONS)); ++i) {
-      LocalRef<jobject> item(
-          env, make_java_FibreInformationPermission(env, &table[static_cast<size_t>(i)]));
-      if (pending(env)) break;
-      if (item) env->SetObjectArrayElement(arr.get(), i, item.get());
-    }
-    return arr.release();
-  }
-};
-
-}  // namespace
 
 // ---- the file-based user table
 
@@ -116,10 +73,14 @@ KX_NATIVE(void, KXAuditLogExport, jstring unit, jobject session, jstring path) {
 KX_SESSION_SETTER(InitKXAuditLog, KXAuditLogInit)
 
 // ---- Fibre Channel permission import: no session, no null test (a null
-// unit or path goes as an empty string), no flush
+// unit or path goes as an empty string), no flush.  The array has as many
+// elements as the library counted, at most the table's 128 (a negative count
+// is 2817); an element that cannot be built stays null and the rest go on.
 
 KX_NATIVE(jobjectArray, FibreInfoPermissionImport, jstring unit, jstring path, jint a, jint b) {
-  ImportCount count;
+  Count count;
   return call(env, kNoFlush, KX_FibreInfoPermissionImport, UnitUnchecked(unit),
-              CharsUnchecked<PERNIX_PATH_SIZE>(path), a, b, count, ImportedPermissions{count.value});
+              CharsUnchecked<PERNIX_PATH_SIZE>(path), a, b, count,
+              CountedList<FibreInformationPermissionRec, PERNIX_MAX_PERMISSIONS, TableIn::Block>(
+                  rec::FibreInformationPermission, count, ListEnd::Skip));
 }

@@ -23,8 +23,9 @@
 #include <jni.h>
 
 #include <concepts>
-#include <initializer_list>
+#include <cstddef>
 #include <cstdio>
+#include <initializer_list>
 #include <type_traits>
 #include <utility>
 
@@ -157,9 +158,35 @@ enum class ListEnd {
   Skip,   // the element stays null and the list goes on
 };
 
-// A fixed table of `Count` records the library fills, returned to Java as an
-// array of Count objects whatever the library says is valid.  Failing to make
-// the array returns null without a report.
+// A new array of `n` objects built from records[0..n), ending at an element
+// that cannot be built as `end` says; null, without a report, when the array
+// itself cannot be made.
+template <typename R>
+jobjectArray list_of(JNIEnv* env, const Desc<R>& desc, const R* records, jsize n, ListEnd end) {
+  LocalRef<jobjectArray> arr(env, new_object_array(env, desc.cls, n));
+  if (!arr) return nullptr;
+  with_lookups(env, [&](Lookups& lookups) {
+    bool clean = false;  // no exception known to be pending
+    for (jsize i = 0; i < n; ++i) {
+      LocalRef<jobject> item(env, write_record(lookups, env, desc, &records[i], clean));
+      // With an exception pending the element cannot be stored: it counts
+      // as not built.
+      if (!item || (!clean && pending(env))) {
+        if (end == ListEnd::Stop) break;
+        clean = false;
+        continue;
+      }
+      clean = true;
+      // An element of the array's own class, inside its bounds: cannot raise.
+      env->SetObjectArrayElement(arr.get(), i, item.get());
+    }
+  });
+  return arr.release();
+}
+
+// A fixed table of `count` records the library fills, returned to Java as an
+// array of `count` objects whatever the library says is valid.  Failing to
+// make the array returns null without a report.
 template <typename R>
 struct OutList {
   OutList(const Desc<R>& d, jsize n, ListEnd e = ListEnd::Stop) : desc(d), count(n), end(e) {}
@@ -175,26 +202,73 @@ struct OutList {
     return static_cast<bool>(rec);
   }
   R* arg() { return rec.get(); }
-  jobjectArray convert(JNIEnv* env, int&) {
-    LocalRef<jobjectArray> arr(env, new_object_array(env, desc.cls, count));
-    if (!arr) return nullptr;
-    with_lookups(env, [&](Lookups& lookups) {
-      bool clean = false;  // no exception known to be pending
-      for (jsize i = 0; i < count; ++i) {
-        LocalRef<jobject> item(env, write_record(lookups, env, desc, &rec[static_cast<size_t>(i)], clean));
-        // With an exception pending the element cannot be stored: it counts
-        // as not built.
-        if (!item || (!clean && pending(env))) {
-          if (end == ListEnd::Stop) break;
-          clean = false;
-          continue;
-        }
-        clean = true;
-        // An element of the array's own class, inside its bounds: cannot raise.
-        env->SetObjectArrayElement(arr.get(), i, item.get());
-      }
-    });
-    return arr.release();
+  jobjectArray convert(JNIEnv* env, int&) { return list_of(env, desc, rec.get(), count, end); }
+};
+
+// The number of entries the library says a table holds, an int it stores
+// through a pointer of its own; read by the table's CountedList.
+struct Count {
+  int value = 0;
+  bool prepare(JNIEnv*) { return true; }
+  int* arg() { return &value; }
+};
+
+// The length of an array sized by `count` over a table of `capacity` records:
+// at most the capacity; -1 for a negative count, from which none is made.
+constexpr jsize counted_length(int count, size_t capacity) {
+  if (count < 0) return -1;
+  return static_cast<size_t>(count) < capacity ? static_cast<jsize>(count) : static_cast<jsize>(capacity);
+}
+
+// Where a counted table lives: in the native's own frame (nothing to
+// allocate), or in a zero-filled block (65535 when it cannot be had).
+enum class TableIn { Frame, Block };
+
+namespace detail {
+template <typename R, size_t N, TableIn Where>
+struct TableStore {
+  R rec[N]{};
+  bool prepare() { return true; }
+  R* get() { return rec; }
+};
+template <typename R, size_t N>
+struct TableStore<R, N, TableIn::Block> {
+  Records<R> rec;
+  bool prepare() {
+    rec = Records<R>(N);
+    return static_cast<bool>(rec);
+  }
+  R* get() { return rec.get(); }
+};
+}  // namespace detail
+
+// A table of N records the library fills, returned as an array sized by the
+// library's Count (listed where the library takes it).  The count is never
+// trusted: the array has that many elements but never more than N, so a
+// larger count converts the whole table and nothing past it; a negative count
+// makes no array and answers 2817.  Elements that cannot be built end the
+// list as `end` says; failing to make the array returns null without a report.
+template <typename R, size_t N, TableIn Where = TableIn::Frame>
+struct CountedList {
+  static_assert(N > 0 && N <= 0x7fffffff, "a table's capacity must be a Java array length");
+
+  CountedList(const Desc<R>& d, const Count& n, ListEnd e = ListEnd::Stop) : desc(d), count(n), end(e) {}
+
+  const Desc<R>& desc;
+  const Count& count;
+  ListEnd end;
+  detail::TableStore<R, N, Where> table;
+  using result_type = jobjectArray;
+
+  bool prepare(JNIEnv*) { return table.prepare(); }
+  R* arg() { return table.get(); }
+  jobjectArray convert(JNIEnv* env, int& code) {
+    const jsize length = counted_length(count.value, N);
+    if (length < 0) {
+      code = kMarshal;
+      return nullptr;
+    }
+    return list_of(env, desc, table.get(), length, end);
   }
 };
 

@@ -43,17 +43,17 @@ KX_SESSION_GETTER(IntegrationLUInfo2, IntegrationLUInfo2)
 KX_SESSION_GETTER(GetIntegrationPinInfo, PINInformation)
 
 // The label lists take no unit: the library fills a table in this frame and
-// says how many entries it holds.  The array has exactly that many elements
-// (those past the table stay null); an element that cannot be built ends the
-// filling quietly.
+// says how many entries it holds.  The array has that many elements, at most
+// the table's 20 or 64 (a negative count is 2817); an element that cannot be
+// built ends the filling quietly.
 KX_NATIVE(jobjectArray, GetLabelList) {
-  int count = 0;
-  return call(env, KX_GetLabelList, CountedTable<KXLabelRec, PERNIX_LABELS>(rec::KXLabel, count), &count);
+  Count count;
+  return call(env, KX_GetLabelList, CountedList<KXLabelRec, PERNIX_LABELS>(rec::KXLabel, count), count);
 }
 
 KX_NATIVE(jobjectArray, GetLabelList2) {
-  int count = 0;
-  return call(env, KX_GetLabelList2, CountedTable<KXLabelRec, PERNIX_LABELS2>(rec::KXLabel, count), &count);
+  Count count;
+  return call(env, KX_GetLabelList2, CountedList<KXLabelRec, PERNIX_LABELS2>(rec::KXLabel, count), count);
 }
 
 KX_NATIVE(void, RaidLuExport, jstring unit, jobject session, jstring path) {

@@ -1,6 +1,7 @@
-// Argument kinds of the pool, label, import and turbo-LU natives: records kept
-// in the native's own frame, tables whose length the library reports, and
-// several tables returned together as one java.lang.Object[].
+// Argument kinds of the pool, import and turbo-LU natives: records kept in the
+// native's own frame, and several tables returned together as one
+// java.lang.Object[].  (Tables whose length the library reports are
+// core's CountedList.)
 #pragma once
 
 #include <cstddef>
@@ -27,37 +28,6 @@ struct FrameOut {
     jobject obj = write_record(env, desc, &rec);
     if (obj == nullptr && !quiet) code = kMarshal;
     return obj;
-  }
-};
-
-// A table of N records in the native's own frame, and beside it the count of
-// entries the library stores through a separate pointer.  Returned as an
-// array of exactly `count` objects, of which at most N are built (the rest
-// stay null).  Quiet: the first element that cannot be built ends the
-// filling and the array is returned as it stands; an array that cannot be
-// made is null.  Nothing is reported either way.
-template <typename R, size_t N>
-struct CountedTable {
-  CountedTable(const Desc<R>& d, const int& n) : desc(d), count(n) {}
-
-  const Desc<R>& desc;
-  const int& count;
-  R rec[N]{};
-  using result_type = jobjectArray;
-
-  bool prepare(JNIEnv*) { return true; }
-  R* arg() { return rec; }
-  jobjectArray convert(JNIEnv* env, int&) {
-    // A negative count leaves the JVM's NegativeArraySizeException pending.
-    LocalRef<jobjectArray> arr(env, new_object_array(env, desc.cls, static_cast<jsize>(count)));
-    if (!arr) return nullptr;
-    for (jsize i = 0; i < count && static_cast<size_t>(i) < N; ++i) {
-      LocalRef<jobject> item(env, write_record(env, desc, &rec[i]));
-      if (!item || pending(env)) break;
-      env->SetObjectArrayElement(arr.get(), i, item.get());
-      if (pending(env)) break;
-    }
-    return arr.release();
   }
 };
 

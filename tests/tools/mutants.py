@@ -37,7 +37,7 @@ MUTANTS = [
  ("N1", "account/users.cpp", "UnitUnchecked(unit),\n              CharsUnchecked", "Unit(unit),\n              CharsUnchecked", "account: FibreInfoPermissionImport refuses a null unit"),
  ("N2", "host/fibre.cpp", "Path(file), ctl, SecondController<TargetIdRec>{ctl});", "CharsUnchecked<PERNIX_PATH_SIZE>(file), ctl, SecondController<TargetIdRec>{ctl});", "fibre: TargetIdImport no longer refuses a null file"),
  ("N3", "firmware/enclosure.cpp", "  bool missing_after_prepare() const { return str == nullptr; }", "  bool missing_after_prepare() const { return false; }", "firmware: ENC concat null path goes on"),
- ("A1", "account/users.cpp", "  jobjectArray convert(JNIEnv* env, int&) {\n    LocalRef<jobjectArray> arr(env, new_object_array(env, rec::FibreInformationPermission.cls, count));\n    if (!arr) return nullptr;", "  jobjectArray convert(JNIEnv* env, int& code) {\n    LocalRef<jobjectArray> arr(env, new_object_array(env, rec::FibreInformationPermission.cls, count));\n    if (!arr) { code = kMarshal; return nullptr; }", "account: permission import array failure reported 2817"),
+ ("A1", "core/native.h", "    return list_of(env, desc, table.get(), length, end);", "    jobjectArray arr = list_of(env, desc, table.get(), length, end);\n    if (arr == nullptr) code = kMarshal;\n    return arr;", "counted lists: an array that cannot be made reported 2817"),
  ("A2", "raid/table_kinds.h", "      code = kMarshal;\n      return nullptr;\n    }\n    return arr.release();", "      code = kNoMemory;\n      return nullptr;\n    }\n    return arr.release();", "pools: RaidLuImport failure reported 65535"),
  ("A3", "perf/kinds.h", "  jobjectArray convert(JNIEnv* env, int&) {\n    LocalRef<jobjectArray> arr(env, new_object_array(env, desc.cls, kControllers));\n    if (!arr) return nullptr;", "  jobjectArray convert(JNIEnv* env, int& code) {\n    LocalRef<jobjectArray> arr(env, new_object_array(env, desc.cls, kControllers));\n    if (!arr) { code = kMarshal; return nullptr; }", "perf: per-controller array failure reported 2817"),
  ("A4", "session/units.cpp", "if (!units) rc = kNullRecord;", "if (!units) rc = kMarshal;", "session: unit table array failure reported 2817 instead of -1"),
@@ -63,7 +63,7 @@ MUTANTS = [
  ("E4", "replication/records.h", "KX_INT(usedcapa), KX_INT(changed_rate), KX_NESTED(time, kx::rec::PairCreateTime));", "KX_INT(changed_rate), KX_INT(usedcapa), KX_NESTED(time, kx::rec::PairCreateTime));", "replication: two int fields read in another order"),
  ("G1", "host/records.h", "          KX_INT(option),\n          KX_INT(expirationlock),\n          KX_RECORDS(lu, kx::rec::LuGuard));", "          KX_INT(option),\n          KX_UNCHECKED(KX_INT(expirationlock)),\n          KX_RECORDS(lu, kx::rec::LuGuard));", "LU guard: expirationlock unchecked"),
  ("P1", "raid/records.h", "PoolLuAddListRec,\n          KX_INT(lu_count),\n          KX_INTS(lu));", "PoolLuAddListRec,\n          KX_INTS(lu),\n          KX_INT(lu_count));", "pools: PoolLuAddList reads lu before lu_count"),
- ("L4", "account/users.cpp", "    LocalRef<jobjectArray> arr(env, new_object_array(env, rec::FibreInformationPermission.cls, count));\n    if (!arr) return nullptr;", "    LocalRef<jobjectArray> arr(env, new_object_array(env, rec::FibreInformationPermission.cls, count));\n    if (!arr) { (void)kx::allocate(1, 8); return nullptr; }", "account: a block leaked when the permission array cannot be made"),
+ ("L4", "core/native.h", "  LocalRef<jobjectArray> arr(env, new_object_array(env, desc.cls, n));\n  if (!arr) return nullptr;", "  LocalRef<jobjectArray> arr(env, new_object_array(env, desc.cls, n));\n  if (!arr) { (void)kx::allocate(1, 8); return nullptr; }", "lists: a block leaked when the array cannot be made"),
  ("W4", "core/memory.cpp", "  if (wipe) {\n", "  if (wipe && bytes < 4096) {\n", "core: large secret records released unwiped"),
  ("F6", "raid/format.cpp", "call(env, kNoFlush,", "call(env,", "raid: a no-flush format native flushes"),
  ("C6", "account/records.h", "KX_RECORDS(account_info, rec::KXAccountInfo));", "KX_UNCHECKED(KX_RECORDS(account_info, rec::KXAccountInfo)));", "account: last field of KXAccountInfoList unchecked"),
@@ -80,6 +80,10 @@ MUTANTS = [
  ("C8", "firmware/records.h", "KX_STRING(vendor), KX_STRING(product), KX_STRING(rom_micro)", "KX_STRING(vendor), KX_CHECKED(KX_STRING(product)), KX_STRING(rom_micro)", "firmware: BootOption's product (not its last String) checked"),
  ("E6", "firmware/records.h", "KX_INT(startup_attr), KX_INT(data_share),", "KX_INT(data_share), KX_INT(startup_attr),", "firmware: BootOption reads data_share before startup_attr"),
  ("E7", "session/records.h", "          KX_STRING(unit_name),\n          KX_STRING(group_name),", "          KX_STRING(group_name),\n          KX_STRING(unit_name),", "session: KXUnitParam reads group_name before unit_name"),
+ ("K1", "core/native.h", "  if (count < 0) return -1;", "  if (count < 0) return 0;", "counted lists: a negative count answers an empty array"),
+ ("K2", "core/native.h", " : static_cast<jsize>(capacity);", " : static_cast<jsize>(capacity - 1);", "counted lists: a count at or past the table drops its last record"),
+ ("K3", "core/native.h", "    if (length < 0) {\n      code = kMarshal;\n", "    if (length < 0) {\n      (void)code;\n", "counted lists: a negative count answers null quietly"),
+ ("K4", "core/native.h", "  if (count < 0) return -1;\n  return static_cast<size_t>(count) < capacity", "  return static_cast<size_t>(count) < capacity", "counted lists: a negative count converts the whole table"),
 ]
 
 
@@ -126,7 +130,7 @@ def main(selected):
             if sh("cmake --build build/host -j2 --target bridge kx_test_classes", blog) != 0:
                 out = {"id": mid, "status": "build-failed"}
             else:
-                sh("ctest --test-dir build/host -R '^jvm' -E i386 -j2 --output-on-failure", tlog)
+                sh("ctest --test-dir build/host -R '^jvm' -E 'i386|asan' -j2 --output-on-failure", tlog)
                 text = open(tlog, errors="replace").read()
                 legs = re.findall(r"Test\s+#\d+: (\S+) \.+\*+Failed", text)
                 tests = sorted(set(re.findall(r"^\d+\) (\S+\(kxtest\.\S+\))", text, re.M)))

@@ -123,15 +123,24 @@ public class PoolsTest extends BridgeTest {
         assertArrayEquals(ints(4096, 9), p.unite_lu);
     }
 
-    static Rec labels(int n, int count) {
+    static Rec labels(int n) {
         Rec r = Rec.of(16 * n);
         for (int i = 0; i < n; i++) r.str(16 * i, "old" + i).str(16 * i + 8, "new" + i);
         return r;
     }
 
+    /** Asserts got holds exactly n labels, each built from its own record of labels(n). */
+    static void assertLabels(int n, KXLabel[] got) {
+        assertEquals(n, got.length);
+        for (int i = 0; i < n; i++) {
+            assertEquals("old" + i, got[i].oldlabel);
+            assertEquals("new" + i, got[i].newlabel);
+        }
+    }
+
     @Test
-    public void labelListsHoldExactlyTheLibrarysCountAndAllocateNothing() {
-        FakePernix.willWrite("KX_GetLabelList", 0, labels(20, 3).str(16, "ABCDEFGH").bytes());
+    public void labelListsHoldTheLibrarysCountAndAllocateNothing() {
+        FakePernix.willWrite("KX_GetLabelList", 0, labels(20).str(16, "ABCDEFGH").bytes());
         FakePernix.willWriteInt("KX_GetLabelList", 1, 3);
         KXLabel[] got = jni.KX_GetLabelList();
         assertEquals(3, got.length);
@@ -140,28 +149,44 @@ public class PoolsTest extends BridgeTest {
                 got[2].newlabel});
         assertEquals(0, FakePernix.allocations());
 
-        // A count of 0 is an empty array; a count past the table (20 or 64) leaves the rest null.
+        // A count of 0 is an empty array, not null.
         FakePernix.willWriteInt("KX_GetLabelList", 1, 0);
         assertEquals(0, jni.KX_GetLabelList().length);
-        FakePernix.willWriteInt("KX_GetLabelList", 1, 21);
-        KXLabel[] one = jni.KX_GetLabelList();
-        assertEquals("new19", one[19].newlabel);
-        assertNull(one[20]);
-        FakePernix.willWrite("KX_GetLabelList2", 0, labels(64, 64).bytes());
-        FakePernix.willWriteInt("KX_GetLabelList2", 1, 70);
-        KXLabel[] two = jni.KX_GetLabelList2();
-        assertEquals(70, two.length);
-        assertEquals("old63", two[63].oldlabel);
-        for (int i = 64; i < 70; i++) assertNull(two[i]);
-
-        // Never a DiskArrayException of their own: a negative count is the JVM's error.
-        FakePernix.willWriteInt("KX_GetLabelList", 1, -1);
-        assertEquals(NegativeArraySizeException.class, thrown(() -> jni.KX_GetLabelList()).getClass());
 
         FakePernix.willReturn("KX_GetLabelList2", 40);
         assertEquals(40, code(() -> jni.KX_GetLabelList2()));
         FakePernix.willReturn("KX_GetLabelList2", 256);
         assertNull(jni.KX_GetLabelList2());
+        assertEquals(0, FakePernix.allocations());
+    }
+
+    @Test
+    public void labelListsNeverGrowPastTheirTable() {
+        // The library's count is not trusted: at the table's 20 or 64 labels
+        // and past them the array holds the whole table, every label built,
+        // and nothing beyond it.
+        FakePernix.willWrite("KX_GetLabelList", 0, labels(20).bytes());
+        FakePernix.willWrite("KX_GetLabelList2", 0, labels(64).bytes());
+        for (int count : new int[] {20, 21, 319231960, Integer.MAX_VALUE}) {
+            FakePernix.willWriteInt("KX_GetLabelList", 1, count);
+            assertLabels(20, jni.KX_GetLabelList());
+        }
+        for (int count : new int[] {63, 64, 65, Integer.MAX_VALUE}) {
+            FakePernix.willWriteInt("KX_GetLabelList2", 1, count);
+            assertLabels(Math.min(count, 64), jni.KX_GetLabelList2());
+        }
+        assertEquals(8, FakePernix.calls("KX_GetLabelList") + FakePernix.calls("KX_GetLabelList2"));
+    }
+
+    @Test
+    public void aNegativeLabelCountIs2817() {
+        for (int count : new int[] {-1, Integer.MIN_VALUE}) {
+            FakePernix.willWriteInt("KX_GetLabelList", 1, count);
+            FakePernix.willWriteInt("KX_GetLabelList2", 1, count);
+            assertEquals(2817, code(() -> jni.KX_GetLabelList()));
+            assertEquals(2817, code(() -> jni.KX_GetLabelList2()));
+        }
+        assertEquals(2, FakePernix.calls("KX_GetLabelList"));
         assertEquals(0, FakePernix.allocations());
     }
 

@@ -49,7 +49,7 @@ public class UserTest extends BridgeTest {
     }
 
     @Test
-    public void permissionImportBuildsCountElements() {
+    public void permissionImportBuildsTheLibrarysCountOfElements() {
         Rec perms = Rec.of(128 * 297).str(0, "2000000000000001").str(17, "port0").str(34, "0x0")
                 .u8(41, 0xFF).u8(296, 0x80).str(297, repeat('n', 16));
         FakePernix.willWrite("KX_FibreInfoPermissionImport", 5, perms.bytes());
@@ -64,16 +64,43 @@ public class UserTest extends BridgeTest {
         // a count of 0 is an empty array
         FakePernix.willWriteInt("KX_FibreInfoPermissionImport", 4, 0);
         assertEquals(0, jni.KX_FibreInfoPermissionImport("u", PATH, 0, 0).length);
+    }
 
-        // a count past the table: the array is that long, elements past 128 stay null
-        FakePernix.willWriteInt("KX_FibreInfoPermissionImport", 4, 200);
-        got = jni.KX_FibreInfoPermissionImport("u", PATH, 0, 0);
-        assertEquals(200, got.length);
-        assertNotNull(got[127]);
-        assertNull(got[128]);
-        // a negative count cannot make the array: the JVM says so
-        FakePernix.willWriteInt("KX_FibreInfoPermissionImport", 4, -3);
-        assertEquals(NegativeArraySizeException.class,
-                thrown(() -> jni.KX_FibreInfoPermissionImport("u", PATH, 0, 0)).getClass());
+    /** A full table of 128 permissions, each named by its index. */
+    static Rec permissionTable() {
+        Rec perms = Rec.of(128 * 297);
+        for (int i = 0; i < 128; i++) perms.str(297 * i, "node" + i).str(297 * i + 17, "port" + i).u8(297 * i + 296, i);
+        return perms;
+    }
+
+    @Test
+    public void permissionImportNeverGrowsPastItsTable() {
+        // The library's count is not trusted: at 128 and past it the array
+        // holds the whole table, every element built from its own record, and
+        // nothing beyond it.
+        FakePernix.willWrite("KX_FibreInfoPermissionImport", 5, permissionTable().bytes());
+        for (int count : new int[] {127, 128, 129, 319231960, Integer.MAX_VALUE}) {
+            FakePernix.willWriteInt("KX_FibreInfoPermissionImport", 4, count);
+            FibreInformationPermission[] got = jni.KX_FibreInfoPermissionImport("u", PATH, 0, 0);
+            assertEquals(Math.min(count, 128), got.length);
+            for (int i = 0; i < got.length; i++) {
+                assertEquals("node" + i, got[i].node_name);
+                assertEquals("port" + i, got[i].port_name);
+                assertEquals((byte) i, got[i].lun_security_bitmap[255]);
+            }
+        }
+        assertEquals("", FakePernix.faults());
+    }
+
+    @Test
+    public void aNegativePermissionCountIs2817WithTheTableReleased() {
+        FakePernix.willWrite("KX_FibreInfoPermissionImport", 5, permissionTable().bytes());
+        for (int count : new int[] {-1, Integer.MIN_VALUE}) {
+            FakePernix.willWriteInt("KX_FibreInfoPermissionImport", 4, count);
+            assertEquals(2817, code(() -> jni.KX_FibreInfoPermissionImport("u", PATH, 0, 0)));
+            assertEquals(0, FakePernix.liveBlocks());
+        }
+        assertEquals(2, FakePernix.calls("KX_FibreInfoPermissionImport"));
+        assertEquals(FakePernix.RELEASED, FakePernix.releases("KX_FibreInfoPermissionImport", 1)[5]);
     }
 }

@@ -27,4 +27,36 @@ public class AccountFieldsTest extends BridgeTest {
             FibreInformationPermission.failAt = Integer.MAX_VALUE;
         }
     }
+
+    @Test
+    public void importPastItsTableTriesEveryRecordOfTheTableAndNoMore() {
+        FakePernix.willWriteInt("KX_FibreInfoPermissionImport", 4, 200);
+        FibreInformationPermission.throwing = false;
+        int before = FibreInformationPermission.made;
+        FibreInformationPermission.failAt = before + 2;  // the second on holds no bitmap
+        try {
+            FibreInformationPermission[] got = jni.KX_FibreInfoPermissionImport("u", "/p", 0, 0);
+            assertEquals(128, got.length);
+            assertNotNull(got[0]);
+            for (int i = 1; i < 128; i++) assertNull(got[i]);
+            assertEquals(before + 128, FibreInformationPermission.made);
+
+            // A constructor that throws: its error reaches the caller and nothing more is made.
+            FibreInformationPermission.throwing = true;
+            before = FibreInformationPermission.made;
+            FibreInformationPermission.failAt = before + 2;
+            assertEquals(IllegalStateException.class,
+                    thrown(() -> jni.KX_FibreInfoPermissionImport("u", "/p", 0, 0)).getClass());
+            assertEquals(before + 2, FibreInformationPermission.made);
+
+            // A negative count is refused before anything is made.
+            FakePernix.willWriteInt("KX_FibreInfoPermissionImport", 4, -1);
+            before = FibreInformationPermission.made;
+            assertEquals(2817, code(() -> jni.KX_FibreInfoPermissionImport("u", "/p", 0, 0)));
+            assertEquals(before, FibreInformationPermission.made);
+        } finally {
+            FibreInformationPermission.failAt = Integer.MAX_VALUE;
+            FibreInformationPermission.throwing = false;
+        }
+    }
 }

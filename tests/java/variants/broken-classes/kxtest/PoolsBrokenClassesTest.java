@@ -29,8 +29,12 @@ public class PoolsBrokenClassesTest extends BridgeTest {
     public void quietNativesLeaveTheJvmsOwnError() {
         FakePernix.willWriteInt("KX_GetLabelList", 1, 2);
         assertEquals(NoSuchMethodError.class, thrown(() -> jni.KX_GetLabelList()).getClass());
+        FakePernix.willWriteInt("KX_GetLabelList2", 1, Integer.MAX_VALUE);
+        assertEquals(NoSuchMethodError.class, thrown(() -> jni.KX_GetLabelList2()).getClass());
         FakePernix.willWriteInt("KX_GetLabelList", 1, 0);  // nothing to build
         assertEquals(0, jni.KX_GetLabelList().length);
+        FakePernix.willWriteInt("KX_GetLabelList", 1, -1);  // refused before any label is looked at
+        assertEquals(2817, code(() -> jni.KX_GetLabelList()));
         assertEquals(NoSuchFieldError.class, thrown(() -> jni.KX_GetTurboLU("u", S)).getClass());
     }
 
