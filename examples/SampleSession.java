@@ -2,7 +2,9 @@ import java.io.IOException;
 import java.nio.charset.StandardCharsets;
 import java.nio.file.Files;
 import java.nio.file.Path;
+import java.nio.file.Paths;
 import java.util.ArrayList;
+import java.util.Arrays;
 import java.util.List;
 import java.util.Locale;
 import java.util.Map;
@@ -11,6 +13,20 @@ import java.util.TreeMap;
 import orvane.str.diskarray.AreaInfo;
 import orvane.str.diskarray.CreateRaidGroup;
 import orvane.str.diskarray.CreateRgDrive;
+import orvane.str.diskarray.DMLUDetail;
+import orvane.str.diskarray.DMLUInformation;
+import orvane.str.diskarray.FibreInformation;
+import orvane.str.diskarray.FibreInformationPort;
+import orvane.str.diskarray.HGConfig;
+import orvane.str.diskarray.HGInfo;
+import orvane.str.diskarray.HGList;
+import orvane.str.diskarray.HGOptionInfo;
+import orvane.str.diskarray.LuMappingHGInfo;
+import orvane.str.diskarray.MirrorLUInfo;
+import orvane.str.diskarray.PairCreateTime;
+import orvane.str.diskarray.PairInfo;
+import orvane.str.diskarray.PairLUInfo;
+import orvane.str.diskarray.StatisticalCommand;
 import orvane.str.diskarray.DiskArrayException;
 import orvane.str.diskarray.DiskArrayUtilityJNI;
 import orvane.str.diskarray.DiskDrive;
@@ -29,16 +45,23 @@ import orvane.str.diskarray.UnitCondition;
 /**
  * A first session with a disk array through DiskArrayUtilityJNI: register the
  * unit, log in, look at its condition and drives, make a RAID group and a
- * logical unit, read the audit log, log out.
+ * logical unit, give hosts a host group that maps the LU, look at the ports,
+ * measure the LUs' I/O into a CSV file, copy the LU onto another with a local
+ * copy pair up to its split, read the audit log, log out.
  *
- * Run against the simulated array, every run leaves its RAID group and LU
- * behind, so the next run starts from there.  The unit and the account come
- * from the environment:
+ * Run against the simulated array, every run leaves its RAID group, LUs,
+ * mapping and pair behind, so the next run starts from there.  Hosts make and
+ * split copy pairs, and the sample cannot wait for copies and I/O in real
+ * time: the simulator's tool (PERNIX_SIM_TOOL, set by scripts/sample.sh)
+ * stands in for the host and moves the simulator's clock on.  The unit and
+ * the account come from the environment:
  *
  *   PERNIX_SIM_UNIT             unit name (default SIM01)
  *   PERNIX_SIM_IP0, _IP1        its controllers' addresses (192.0.2.10, 192.0.2.11)
  *   PERNIX_SIM_ADMIN_USER       account (default admin)
  *   PERNIX_SIM_ADMIN_PASSWORD   its password (default pernix-sim)
+ *   PERNIX_SIM_TOOL             the pernix-sim tool (the host and the clock)
+ *   PERNIX_SIM_PERF_DIR         where the CSV goes (default perf/ beside the database)
  */
 public final class SampleSession {
     /** RAID5 of four data drives and one parity drive. */
@@ -67,7 +90,7 @@ public final class SampleSession {
             status = 1;
         } catch (IOException e) {
             System.out.println();
-            System.out.println("Could not read the exported audit log: " + e.getMessage());
+            System.out.println("A file or the simulator's tool failed: " + e.getMessage());
             status = 1;
         } catch (Exception e) {
             System.out.println();
@@ -118,12 +141,28 @@ public final class SampleSession {
         if (group < 0) {
             group = groupWithRoom(before);
         }
+        int made = -1;
         if (group < 0) {
             System.out.println("No RAID group has room for another LU: nothing to make this time.");
         } else {
             heading("Logical unit");
-            createLu(group);
+            made = createLu(group);
         }
+
+        heading("Host group");
+        int hostGroup = hostGroup();
+
+        heading("LU mapping");
+        mapLu(hostGroup, made);
+
+        heading("Ports");
+        showPorts();
+
+        heading("Performance");
+        collectPerformance(hostGroup);
+
+        heading("Copy pair");
+        copyPair(made);
 
         heading("Audit log");
         showAudit(exportAuditLog());
@@ -306,7 +345,8 @@ public final class SampleSession {
 
     // ---- logical units
 
-    private void createLu(int group) throws Exception {
+    /** Makes the run's LU in the group and shows where it lies; its number. */
+    private int createLu(int group) throws Exception {
         // The LU list has a slot for every LU number the unit can hold; the
         // first slot not in use gives the new LU its number.
         LogicalUnit[] all = array.KX_GetLogicalUnit(unit, session);
@@ -345,6 +385,337 @@ public final class SampleSession {
                 made.luNumber, size(made.capacity), made.rgNumber, made.raid_level, made.defaultCTL, made.stripe,
                 luStatus(made.status));
         System.out.printf("LUs on the unit: %d%n", count + 1);
+        return number;
+    }
+
+    /** Makes an LU of the sample's size in the first group with room, quietly; -1 when none has room. */
+    private int addLu() throws Exception {
+        int group = -1;
+        for (RgDetail g : array.KX_GetRaidGroupInformation(unit, session).rg) {
+            if (g != null && g.valid_index != 0 && wide(g.rest_capa_h, g.rest_capa_l) >= LU_BYTES / BLOCK
+                    && array.KX_GetRGAreaInformation(unit, session, g.rgnum).lumaxcapa >= LU_BYTES / BLOCK) {
+                group = g.rgnum;
+                break;
+            }
+        }
+        if (group < 0) {
+            return -1;
+        }
+        int number = -1;
+        for (LogicalUnit l : array.KX_GetLogicalUnit(unit, session)) {
+            if (l != null && l.lu_valid == 0) {
+                number = l.luNumber;
+                break;
+            }
+        }
+        LogicalUnit lu = new LogicalUnit();
+        lu.luNumber = number;
+        lu.rgNumber = group;
+        lu.capacity = (int) (LU_BYTES / BLOCK);
+        lu.stripe = 256;
+        lu.hostblock = BLOCK;
+        lu.defaultCTL = 0;
+        array.KX_LogicalUnitAdd(unit, session, lu);
+        return number;
+    }
+
+    // ---- host group and LU mapping
+
+    /** Port 0A: controller 0, port 0, where the sample's hosts are cabled. */
+    private static final int CTL = 0, PORT = 0;
+    private static final String HOST_GROUP = "sample-hosts";
+
+    /** The sample's host group on port 0A, made by the first session; its number. */
+    private int hostGroup() throws Exception {
+        int number = findGroup(array.KX_GetHGList(unit, session));
+        if (number >= 0) {
+            System.out.printf("Host group %d \"%s\" on port 0A was made by an earlier session.%n", number, HOST_GROUP);
+        } else {
+            HGConfig config = new HGConfig();
+            config.hgname = HOST_GROUP;
+            array.KX_CreateHG(unit, session, CTL, PORT, -1, config);  // -1: the lowest free number
+            number = findGroup(array.KX_GetHGList(unit, session));
+            // The hosts are Linux servers with native multipathing.
+            HGOptionInfo o = array.KX_GetHGOption(unit, session, CTL, PORT, number);
+            o.platform_id = 1;
+            o.alternate_path_id = 1;
+            array.KX_SetHGOption(unit, session, CTL, PORT, number, o);
+            System.out.printf("Made host group %d \"%s\" on port 0A.%n", number, HOST_GROUP);
+        }
+        HGOptionInfo o = array.KX_GetHGOption(unit, session, CTL, PORT, number);
+        System.out.printf("Its hosts: platform %s, alternate path %s%n",
+                o.platform_id == 1 ? "Linux" : "id " + o.platform_id,
+                o.alternate_path_id == 1 ? "native multipath" : "id " + o.alternate_path_id);
+        return number;
+    }
+
+    private static int findGroup(HGList list) {
+        HGInfo[] groups = list.ctl[CTL].port[PORT].hg;
+        for (int i = 0; i < groups.length; i++) {
+            if (groups[i] != null && groups[i].valid != 0 && HOST_GROUP.equals(groups[i].hgname)) {
+                return i;
+            }
+        }
+        return -1;
+    }
+
+    /** Maps the run's LU at the group's first free host LU number; shows the group's table. */
+    private void mapLu(int hostGroup, int lu) throws Exception {
+        LuMappingHGInfo now = mapping(hostGroup);
+        if (lu >= 0) {
+            int free = 0;
+            while (free < now.lu.length && now.lu[free] != -1) {
+                free++;
+            }
+            if (free == now.lu.length) {
+                System.out.printf("Host group %d maps every host LU already: LU %d stays unmapped.%n", hostGroup, lu);
+            } else {
+                LuMappingHGInfo add = new LuMappingHGInfo();
+                Arrays.fill(add.lu, -1);
+                add.lu[free] = lu;
+                array.KX_SetLuMappingList(unit, session, CTL, PORT, hostGroup, 1, add);  // 1: add to the table
+                System.out.printf("Mapped LU %d as host LU %d.%n", lu, free);
+                now = mapping(hostGroup);
+            }
+        }
+        System.out.printf("Host group %d on port 0A maps:%n", hostGroup);
+        for (int h = 0; h < now.lu.length; h++) {
+            if (now.lu[h] >= 0) {
+                System.out.printf("  host LU %3d -> LU %d%s%n", h, now.lu[h], now.lu[h] == lu ? "  (new)" : "");
+            }
+        }
+    }
+
+    private LuMappingHGInfo mapping(int hostGroup) throws Exception {
+        Object[] r = array.KX_GetLuMappingList(unit, session, CTL, PORT, hostGroup);
+        return (LuMappingHGInfo) r[1];
+    }
+
+    private void showPorts() throws Exception {
+        FibreInformation[] ctls = array.KX_GetFibreInformation(unit, session);
+        HGList groups = array.KX_GetHGList(unit, session);
+        for (int c = 0; c < ctls.length; c++) {
+            FibreInformation f = ctls[c];
+            for (int p = 0; p < f.port.length; p++) {
+                if ((f.port_valid >> p & 1) == 0) {
+                    continue;
+                }
+                FibreInformationPort port = f.port[p];
+                int made = 0;
+                for (HGInfo g : groups.ctl[c].port[p].hg) {
+                    made += g != null && g.valid != 0 ? 1 : 0;
+                }
+                System.out.printf("  port %d%c  %s  %s  %-14s %d host group%s%n", c, (char) ('A' + p),
+                        port.port_name, f.topology_ref[p] == 0 ? "link down" : "link up  ",
+                        port.refer_speed == 0 ? "" : port.refer_speed + " Gbit/s", made, made == 1 ? "" : "s");
+            }
+        }
+    }
+
+    // ---- performance
+
+    /**
+     * Reads every LU's counters twice, five minutes of the hosts' I/O apart,
+     * and has the array write the summary CSV of the interval.
+     */
+    private void collectPerformance(int hostGroup) throws Exception {
+        StatisticalCommand[] before = array.KX_GetPerformance(unit, session);
+        if (!advance(300, "five minutes of the hosts' I/O")) {
+            System.out.println("(no pernix-sim tool: the two readings are moments apart)");
+        }
+        StatisticalCommand[] after = array.KX_GetPerformance(unit, session);
+        Path dir = perfDir();
+        Files.createDirectories(dir);
+        array.KX_PerformanceOutput(unit, session, dir.toString(), before[0], after[0], before[1], after[1]);
+        Path csv = dir.resolve("summary.csv");
+        List<String> lines = Files.readAllLines(csv, StandardCharsets.UTF_8);
+        System.out.printf("Wrote %s: %d LUs over %s s%n", csv, lines.size() - 1,
+                lines.size() > 1 ? splitCsv(lines.get(1))[4] : "0");
+        // ctl,lu,from,to,seconds,read_count,write_count,read_cache,write_cache,read_iops,write_iops,read_hit,write_hit
+        List<Integer> mapped = new ArrayList<>();
+        for (int l : mapping(hostGroup).lu) {
+            if (l >= 0) {
+                mapped.add(l);
+            }
+        }
+        System.out.println("The LUs the sample's hosts use:");
+        for (int i = 1; i < lines.size(); i++) {
+            String[] r = splitCsv(lines.get(i));
+            if (r.length >= 13 && mapped.contains(Integer.parseInt(r[1]))) {
+                System.out.printf("  LU %-5s controller %s: %8s reads/s %8s writes/s, hits %s%% / %s%%%n", r[1], r[0],
+                        r[9], r[10], r[11], r[12]);
+            }
+        }
+    }
+
+    /** Where the simulator keeps performance files: PERNIX_SIM_PERF_DIR, else perf/ beside the database. */
+    private static Path perfDir() {
+        String dir = System.getenv("PERNIX_SIM_PERF_DIR");
+        if (dir != null && !dir.isEmpty()) {
+            return Paths.get(dir);
+        }
+        String db = System.getenv("PERNIX_SIM_DB");
+        if (db != null && !db.isEmpty()) {
+            Path parent = Paths.get(db).toAbsolutePath().getParent();
+            return parent.resolve("perf");
+        }
+        String state = System.getenv("XDG_STATE_HOME");
+        Path base = state != null && !state.isEmpty() ? Paths.get(state)
+                : Paths.get(System.getProperty("user.home"), ".local", "state");
+        return base.resolve("pernix-sim").resolve("perf");
+    }
+
+    // ---- copy pair
+
+    /**
+     * Copies the run's LU onto a second LU of the same size: a local mirror.
+     * Hosts make and split pairs through a command device, not through this
+     * library; the simulator's tool stands in for that host here.
+     */
+    private void copyPair(int primary) throws Exception {
+        if (primary < 0) {
+            showPairs(-1);
+            return;
+        }
+        if (tool() == null) {
+            System.out.println("No pernix-sim tool (PERNIX_SIM_TOOL): no host to make a pair this time.");
+            showPairs(-1);
+            return;
+        }
+        int dmlu = dmlu(primary);
+        if (dmlu < 0) {
+            System.out.println("No LU can be the DMLU: no pair this time.");
+            return;
+        }
+        int secondary = addLu();
+        if (secondary < 0) {
+            System.out.println("No RAID group has room for the copy's LU: no pair this time.");
+            showPairs(-1);
+            return;
+        }
+        System.out.printf("Made LU %d (%s) for the copy.%n", secondary, size(LU_BYTES / BLOCK));
+        System.out.printf("A host asks for the pair (pernix-sim pair create mirror %d %d): %s%n", primary, secondary,
+                tool("pair", "create", "mirror", String.valueOf(primary), String.valueOf(secondary)));
+        // 100 GB copy in about four minutes; the clock moves on two minutes at a time.
+        for (int step = 0; step < 5; step++) {
+            MirrorLUInfo m = mirror(secondary);
+            System.out.printf("  LU %d -> LU %d: %-5s %3d%% copied%n", primary, secondary, pairStatus(m.pair_status),
+                    100 - m.changed_rate);
+            if (m.pair_status != 1) {
+                break;
+            }
+            advance(125, "the copy goes on");
+        }
+        System.out.printf("The host splits it (pernix-sim pair split mirror %d): %s%n", secondary,
+                tool("pair", "split", "mirror", String.valueOf(secondary)));
+        showPairs(secondary);
+    }
+
+    /** The DMLU pairs need: the one set, else the smallest LU that takes the role; -1 when none does. */
+    private int dmlu(int primary) throws Exception {
+        DMLUInformation d = array.KX_GetDMLU(unit, session);
+        for (DMLUDetail x : d.dmlu) {
+            if (x != null && x.dmlu_valid != 0) {
+                System.out.printf("DMLU: LU %d (set by an earlier session)%n", x.dmlu_lu);
+                return x.dmlu_lu;
+            }
+        }
+        List<LogicalUnit> spare = new ArrayList<>();
+        for (LogicalUnit l : array.KX_GetLogicalUnit(unit, session)) {
+            if (l != null && l.lu_valid != 0 && l.luNumber != primary) {
+                spare.add(l);
+            }
+        }
+        spare.sort((a, b) -> Long.compare(a.capacity & 0xffffffffL, b.capacity & 0xffffffffL));
+        for (LogicalUnit l : spare) {
+            d.dmlu_count = 1;
+            d.dmlu[0].dmlu_valid = 1;
+            d.dmlu[0].set_valid = 1;
+            d.dmlu[0].dmlu_lu = l.luNumber;
+            try {
+                array.KX_SetDMLU(unit, session, d);
+                System.out.printf("DMLU: LU %d (%s), set now%n", l.luNumber, size(l.capacity & 0xffffffffL));
+                return l.luNumber;
+            } catch (Exception e) {
+                // An LU with another role answers 12296: try the next.
+                if (!(e instanceof DiskArrayException) || ((DiskArrayException) e).getCode() != 12296) {
+                    throw e;
+                }
+            }
+        }
+        return -1;
+    }
+
+    private MirrorLUInfo mirror(int secondary) throws Exception {
+        PairInfo info = array.KX_GetPairInformation(unit, session);
+        for (int i = 0; i < info.pair_count; i++) {
+            PairLUInfo p = info.lu[i];
+            for (int k = 0; k < p.mirror_count; k++) {
+                if (p.m_info[k].lun == secondary) {
+                    return p.m_info[k];
+                }
+            }
+        }
+        throw new IllegalStateException("the array lists no pair with LU " + secondary);
+    }
+
+    private void showPairs(int fresh) throws Exception {
+        PairInfo info = array.KX_GetPairInformation(unit, session);
+        int n = 0;
+        for (int i = 0; i < info.pair_count; i++) {
+            n += info.lu[i].mirror_count;
+        }
+        System.out.printf("Local copy pairs on the unit: %d%n", n);
+        for (int i = 0; i < info.pair_count; i++) {
+            PairLUInfo p = info.lu[i];
+            for (int k = 0; k < p.mirror_count; k++) {
+                MirrorLUInfo m = p.m_info[k];
+                PairCreateTime t = m.time;
+                System.out.printf(Locale.ROOT, "  LU %-5d -> LU %-5d %-5s made %04d-%02d-%02d %02d:%02d:%02d UTC%s%n",
+                        p.lun, m.lun, pairStatus(m.pair_status), t.year, t.month, t.day, t.hour, t.minute, t.second,
+                        m.lun == fresh ? "  (new)" : "");
+            }
+        }
+    }
+
+    private static String pairStatus(int status) {
+        switch (status) {
+            case 1: return "copy";
+            case 2: return "pair";
+            case 3: return "split";
+            default: return "status " + status;
+        }
+    }
+
+    // ---- the simulator's tool
+
+    /** pernix-sim, which stands in for the hosts and for time passing: PERNIX_SIM_TOOL; null when not there. */
+    private static String tool() {
+        String t = System.getProperty("pernix.sim.tool", System.getenv("PERNIX_SIM_TOOL"));
+        return t != null && !t.isEmpty() && Files.isExecutable(Paths.get(t)) ? t : null;
+    }
+
+    /** Runs the tool on the same database; what it printed. */
+    private static String tool(String... args) throws IOException, InterruptedException {
+        List<String> cmd = new ArrayList<>();
+        cmd.add(tool());
+        cmd.addAll(Arrays.asList(args));
+        Process p = new ProcessBuilder(cmd).redirectErrorStream(true).start();
+        String out = new String(p.getInputStream().readAllBytes(), StandardCharsets.UTF_8).trim();
+        if (p.waitFor() != 0) {
+            throw new IOException("pernix-sim " + String.join(" ", args) + ": " + out);
+        }
+        return out;
+    }
+
+    /** Moves the simulator's clock on (the time a real session would wait); false without the tool. */
+    private static boolean advance(int seconds, String what) throws Exception {
+        if (tool() == null) {
+            return false;
+        }
+        tool("clock", "+" + seconds);
+        System.out.printf("  (the simulator's clock moves on %d s: %s)%n", seconds, what);
+        return true;
     }
 
     private static String luStatus(int status) {
@@ -376,14 +747,14 @@ public final class SampleSession {
     }
 
     private static void showAudit(List<String[]> rows) {
-        int shown = Math.min(8, rows.size());
+        int shown = Math.min(16, rows.size());
         System.out.printf("%d entries; the last %d:%n", rows.size(), shown);
         for (String[] r : rows.subList(rows.size() - shown, rows.size())) {
             if (r.length < 7) {
                 continue;
             }
             String result = r[6].equals("0") ? "done" : "refused, " + explain(Integer.parseInt(r[6]));
-            System.out.printf("  %s  %-8s %-28s %-22s %s%n", r[1], r[3], r[4], r[5], result);
+            System.out.printf("  %s  %-8s %-28s %-30s %s%n", r[1], r[3], r[4], r[5], result);
         }
     }
 

@@ -42,5 +42,6 @@ echo "sample: $what ($libdir/libdiskarrayjni.so) over the simulated array ($simd
 if [ "$fresh" = yes ]; then
   "$top/build/host/sim/pernix-sim" reset --yes >/dev/null
 fi
+export PERNIX_SIM_TOOL="${PERNIX_SIM_TOOL:-$top/build/host/sim/pernix-sim}"  # stands in for hosts and time
 LD_LIBRARY_PATH="$simdir${LD_LIBRARY_PATH:+:$LD_LIBRARY_PATH}" \
   exec "$java" ${KX_JVM_OPTS:-} -Djava.library.path="$libdir" -cp "$classes" SampleSession "$@"
