@@ -291,9 +291,10 @@ int KX_LogoutKXAccountAlertCheck(const char* unit, const KXSessionInfoRec* sessi
 
 int KX_ForcedLogoutKXAccount(const char* unit, const KXSessionInfoRec* session, const ForcedLogoutInfoRec* info) {
   return sim::run(__func__, sim::kWrite, [&](Call& c) {
-    c.session(unit, session, sim::kRightAccounts);
+    c.session(unit, session);
     std::string target = account_name(in(info, "info").user_id, sizeof info->user_id, "user_id");
     c.what = "sessions of " + target;
+    c.require(sim::kRightAccounts);
     Account a;
     if (!find_account(c, target, a)) fail(sim::kNoSuchObject, "no account " + target);
     if (target == c.actor.user) {
@@ -380,9 +381,10 @@ int KX_ChangeAccount(const char* unit, const KXSessionInfoRec* session, const KX
 int KX_DeleteAccount(const char* unit, const KXSessionInfoRec* session, const KXAccountDeleteRec* del) {
   return sim::run(__func__, sim::kWrite, [&](Call& c) {
     c.what = "account";
-    c.session(unit, session, sim::kRightAccounts);
+    c.session(unit, session);
     std::string user = account_name(in(del, "account").user_id, sizeof del->user_id, "user_id");
     c.what = "account " + user;
+    c.require(sim::kRightAccounts);
     Account a;
     if (!find_account(c, user, a)) fail(sim::kNoSuchObject, "no account " + user);
     if (user == c.actor.user) fail(sim::kBusy, "you cannot delete yourself");

@@ -195,9 +195,10 @@ int KX_GetDiskDriveRestoration(const char* unit, const KXSessionInfoRec* session
 
 int KX_SetDiskDriveRestoration(const char* unit, const KXSessionInfoRec* session, const DiskDriveRestorationRec* rec) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.session(unit, session, sim::kRightStorage);
+    c.session(unit, session);
     const auto& r = sim::in(rec, "drive restoration");
     c.what = "drive restoration";
+    c.require(sim::kRightStorage);
     check_range(r.mode, 0, 2, "restoration mode");
     check_range(r.restoration, 0, 3, "restoration priority");
     check_range(r.dynamic_sparing, 0, 1, "dynamic sparing");
@@ -219,9 +220,10 @@ int KX_GetSATADriveInformation(const char* unit, const KXSessionInfoRec* session
 
 int KX_SetSATADriveInformation(const char* unit, const KXSessionInfoRec* session, const SATADriveInformationRec* rec) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.session(unit, session, sim::kRightStorage);
+    c.session(unit, session);
     const auto& r = sim::in(rec, "SATA drive settings");
     c.what = "SATA drive settings";
+    c.require(sim::kRightStorage);
     check_range(r.sweep_info.sweep_valid, 0, 1, "sweep");
     check_range(r.sweep_info.interval_time, 0, 65535, "sweep interval");
     check_range(r.sweep_info.stop_time, 0, 65535, "sweep stop time");
@@ -246,9 +248,10 @@ int KX_GetSATADriveRestoration(const char* unit, const KXSessionInfoRec* session
 
 int KX_SetSATADriveRestoration(const char* unit, const KXSessionInfoRec* session, const SATADriveRestorationRec* rec) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.session(unit, session, sim::kRightStorage);
+    c.session(unit, session);
     const auto& r = sim::in(rec, "SATA drive restoration");
     c.what = "SATA drive restoration";
+    c.require(sim::kRightStorage);
     check_range(r.collect_copy_times, 0, 255, "copy-back retries");
     sim::save_setting(c.db, kSataRestorationKey, &r, sizeof r);
   });
@@ -264,9 +267,10 @@ int KX_GetDriveResponseDiag(const char* unit, const KXSessionInfoRec* session, D
 
 int KX_SetDriveResponseDiag(const char* unit, const KXSessionInfoRec* session, const DriveResponseDiagRec* rec) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.session(unit, session, sim::kRightStorage);
+    c.session(unit, session);
     const auto& r = sim::in(rec, "drive response diagnosis");
     c.what = "drive response diagnosis";
+    c.require(sim::kRightStorage);
     check_range(r.valid, 0, 1, "valid");
     check_range(r.set_mode, 0, 1, "set mode");
     check_range(r.mode, 0, 2, "diagnosis mode");
@@ -280,8 +284,9 @@ int KX_SetDriveResponseDiag(const char* unit, const KXSessionInfoRec* session, c
 // a: enclosure, b: slot, c: 0 online, 1 offline, 2 failed.
 int KX_SetDriveMode(const char* unit, const KXSessionInfoRec* session, int a, int b, int mode) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.session(unit, session, sim::kRightStorage);
+    c.session(unit, session);
     c.what = drive_name(a, b);
+    c.require(sim::kRightStorage);
     check_range(mode, 0, 2, "drive mode");
     auto d = need_drive(c.db, a, b);
     if (mode == 0) {
@@ -344,8 +349,9 @@ int KX_GetSpinDownUpInformation(const char* unit, const KXSessionInfoRec* sessio
 
 int KX_SpinDownDriveByRG(const char* unit, const KXSessionInfoRec* session, int rgnum) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.session(unit, session, sim::kRightStorage);
+    c.session(unit, session);
     c.what = rg_name(rgnum);
+    c.require(sim::kRightStorage);
     need_rg(c.db, rgnum);
     if (sim::rg_spun_down(c.db, rgnum)) fail(kBusy, rg_name(rgnum) + " is spun down already");
     auto j = c.db.sql("SELECT j.lun FROM jobs j JOIN lus l ON l.number=j.lun WHERE l.rg=?1 AND j.finish>?2 LIMIT 1");
@@ -360,8 +366,9 @@ int KX_SpinDownDriveByRG(const char* unit, const KXSessionInfoRec* session, int 
 
 int KX_SpinUpDriveByRG(const char* unit, const KXSessionInfoRec* session, int rgnum) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.session(unit, session, sim::kRightStorage);
+    c.session(unit, session);
     c.what = rg_name(rgnum);
+    c.require(sim::kRightStorage);
     need_rg(c.db, rgnum);
     if (!sim::rg_spun_down(c.db, rgnum)) fail(kBusy, rg_name(rgnum) + " is not spun down");
     auto u = c.db.sql("UPDATE drives SET state='normal' WHERE rg=?1 AND state='spun-down'");

@@ -128,8 +128,9 @@ extern "C" {
 // a: the LU number; b: 0 full format, 1 quick format.
 int KX_LogicalUnitFormat(const char* unit, int a, int b) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.unit_login(unit, sim::kRightStorage);
+    c.unit_login(unit);
     c.what = lu_name(a);
+    c.require(sim::kRightStorage);
     if (b != 0 && b != 1) fail(kBadParameter, "format mode " + std::to_string(b) + " is not 0 or 1");
     if (b == 0)
       enter_job(c, a, "format", 0, sim::kFormatRate);
@@ -157,8 +158,9 @@ int KX_LogicalUnitFormatStatus(const char* unit, int lun, int* out) {
 // format starts at once; out: the seconds until it finishes.
 int KX_LogicalUnitFormatImmediateCTL(const char* unit, int a, int b, int* out) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.unit_login(unit, sim::kRightStorage);
+    c.unit_login(unit);
     c.what = lu_name(a);
+    c.require(sim::kRightStorage);
     if (!out) fail(kBadParameter, "result: null");
     if (b != 0 && b != 1) fail(kBadParameter, "controller " + std::to_string(b) + " is not 0 or 1");
     *out = static_cast<int>(std::min<int64_t>(enter_job(c, a, "format", b, sim::kFormatRate), INT32_MAX));
@@ -181,9 +183,10 @@ int KX_LogicalUnitFormatStatusList(const char* unit, LuFormatStatusListRec* list
 
 int KX_EntryFormatList(const char* unit, const FormatListRec* list) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.unit_login(unit, sim::kRightStorage);
+    c.unit_login(unit);
     const FormatListRec& l = sim::in(list, "format list");
     c.what = "format list";
+    c.require(sim::kRightStorage);
     int n = 0;
     for (int lun = 0; lun < 2048; ++lun)
       if (l.lu[lun]) {
@@ -231,9 +234,10 @@ int KX_GetQuickFormatOption(const char* unit, const KXSessionInfoRec* session, Q
 
 int KX_SetQuickFormatOption(const char* unit, const KXSessionInfoRec* session, const QuickFormatOptionRec* option) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.session(unit, session, sim::kRightStorage);
+    c.session(unit, session);
     const QuickFormatOptionRec& o = sim::in(option, "quick format option");
     c.what = "quick format option";
+    c.require(sim::kRightStorage);
     if (o.valid_index != 0 && o.valid_index != 1) fail(kBadParameter, "valid_index is not 0 or 1");
     if (o.change_index != 0 && o.change_index != 1) fail(kBadParameter, "change_index is not 0 or 1");
     if (o.priority_mode != 0 && o.priority_mode != 1) fail(kBadParameter, "priority mode is not 0 or 1");
@@ -244,9 +248,10 @@ int KX_SetQuickFormatOption(const char* unit, const KXSessionInfoRec* session, c
 
 int KX_EntryQuickFormatList(const char* unit, const KXSessionInfoRec* session, const QuickFormatListRec* list) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.session(unit, session, sim::kRightStorage);
+    c.session(unit, session);
     const QuickFormatListRec& l = sim::in(list, "quick format list");
     c.what = "quick format list";
+    c.require(sim::kRightStorage);
     int64_t rate = quick_rate(c.db);
     int mode = quick_option(c.db).format_mode;
     int n = 0;
@@ -274,9 +279,10 @@ int KX_GetQuickFormatStatusList(const char* unit, const KXSessionInfoRec* sessio
 int KX_EntryParityCorrectionList(const char* unit, const KXSessionInfoRec* session,
                                  const ParityCorrectionListRec* list) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.session(unit, session, sim::kRightStorage);
+    c.session(unit, session);
     const ParityCorrectionListRec& l = sim::in(list, "parity correction list");
     c.what = "parity correction list";
+    c.require(sim::kRightStorage);
     if (l.correction_mode != 0 && l.correction_mode != 1) fail(kBadParameter, "correction mode is not 0 or 1");
     if (l.lu_count < 1 || l.lu_count > 4096) fail(kBadParameter, "LU count " + std::to_string(l.lu_count) + " is not 1-4096");
     std::vector<bool> seen(4096);

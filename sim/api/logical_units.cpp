@@ -174,9 +174,10 @@ int KX_GetLastLogicalUnit(const char* unit, int* lun) {
 
 int KX_LogicalUnitAdd(const char* unit, const KXSessionInfoRec* session, const LogicalUnitRec* lu) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.session(unit, session, sim::kRightStorage);
+    c.session(unit, session);
     const LogicalUnitRec& r = sim::in(lu, "LU");
     c.what = lu_name(r.luNumber);
+    c.require(sim::kRightStorage);
     sim::LuSpec spec;
     spec.number = r.luNumber;
     spec.rg = r.rgNumber;
@@ -196,19 +197,21 @@ int KX_LogicalUnitAdd(const char* unit, const KXSessionInfoRec* session, const L
 
 int KX_LogicalUnitDelete(const char* unit) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.unit_login(unit, sim::kRightStorage);
+    c.unit_login(unit);
     auto s = c.db.sql("SELECT max(number) FROM lus");
     if (!s.step() || s.is_null(0)) fail(kNoSuchObject, "no LU to delete");
     int lun = s.i(0);
     c.what = lu_name(lun);
+    c.require(sim::kRightStorage);
     sim::delete_lu(c.db, lun);
   });
 }
 
 int KX_LogicalUnitDeleteAll(const char* unit) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.unit_login(unit, sim::kRightStorage);
+    c.unit_login(unit);
     c.what = "every LU";
+    c.require(sim::kRightStorage);
     std::vector<int> all;
     {
       auto s = c.db.sql("SELECT number FROM lus ORDER BY number");
@@ -221,8 +224,9 @@ int KX_LogicalUnitDeleteAll(const char* unit) {
 
 int KX_LogicalUnitDeleteByLUN(const char* unit, const KXSessionInfoRec* session, int lun) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.session(unit, session, sim::kRightStorage);
+    c.session(unit, session);
     c.what = lu_name(lun);
+    c.require(sim::kRightStorage);
     check_lun(lun);
     sim::delete_lu(c.db, lun);
   });
@@ -230,8 +234,9 @@ int KX_LogicalUnitDeleteByLUN(const char* unit, const KXSessionInfoRec* session,
 
 int KX_LogicalUnitExpand(const char* unit, int a, int b) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.unit_login(unit, sim::kRightStorage);
+    c.unit_login(unit);
     c.what = lu_name(a);
+    c.require(sim::kRightStorage);
     check_lun(a);
     sim::expand_lu(c.db, a, b);
   });
@@ -239,8 +244,9 @@ int KX_LogicalUnitExpand(const char* unit, int a, int b) {
 
 int KX_LogicalUnitChangeStaging(const char* unit, const KXSessionInfoRec* session, int a, int b) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.session(unit, session, sim::kRightStorage);
+    c.session(unit, session);
     c.what = lu_name(a);
+    c.require(sim::kRightStorage);
     need_lu(c.db, a);
     if (b < 0 || b > 2) fail(kBadParameter, "staging mode " + std::to_string(b) + " is not 0-2");
     auto u = c.db.sql("UPDATE lus SET staging=?1 WHERE number=?2");
@@ -250,8 +256,9 @@ int KX_LogicalUnitChangeStaging(const char* unit, const KXSessionInfoRec* sessio
 
 int KX_LogicalUnitChangeCtl(const char* unit, const KXSessionInfoRec* session, int a) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.session(unit, session, sim::kRightStorage);
+    c.session(unit, session);
     c.what = lu_name(a);
+    c.require(sim::kRightStorage);
     need_lu(c.db, a);
     auto u = c.db.sql("UPDATE lus SET default_ctl=1-default_ctl, current_ctl=1-default_ctl WHERE number=?1");
     u.bind(a).run();
@@ -260,8 +267,9 @@ int KX_LogicalUnitChangeCtl(const char* unit, const KXSessionInfoRec* session, i
 
 int KX_LogicalUnitInvalid(const char* unit, int lun) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.unit_login(unit, sim::kRightStorage);
+    c.unit_login(unit);
     c.what = lu_name(lun);
+    c.require(sim::kRightStorage);
     need_lu(c.db, lun);
     not_held(c.db, lun);
     auto s = c.db.sql("SELECT status FROM lus WHERE number=?1");
@@ -276,8 +284,9 @@ int KX_LogicalUnitInvalid(const char* unit, int lun) {
 
 int KX_LogicalUnitRestore(const char* unit, int lun) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.unit_login(unit, sim::kRightStorage);
+    c.unit_login(unit);
     c.what = lu_name(lun);
+    c.require(sim::kRightStorage);
     need_lu(c.db, lun);
     auto s = c.db.sql("SELECT status FROM lus WHERE number=?1");
     s.bind(lun);
@@ -290,9 +299,10 @@ int KX_LogicalUnitRestore(const char* unit, int lun) {
 
 int KX_LogicalUnitRealloc(const char* unit, const LUReallocInfoRec* info) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.unit_login(unit, sim::kRightStorage);
+    c.unit_login(unit);
     const LUReallocInfoRec& r = sim::in(info, "re-allocation");
     c.what = lu_name(r.lun);
+    c.require(sim::kRightStorage);
     need_lu(c.db, r.lun);
     not_held(c.db, r.lun);
     if (sim::lu_formatting(c.db, c.now, r.lun)) fail(sim::kBusy, lu_name(r.lun) + " is being formatted");

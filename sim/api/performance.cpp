@@ -574,9 +574,10 @@ int KX_PerformanceDataInitialize(const KXSessionInfoRec* session, const char* pa
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
     const auto& r = sim::in(info, "management information");
     c.what = "performance collection";
-    c.session(r.unitname, session, sim::kRightPerformance);
+    c.session(r.unitname, session);
     Collection col = collection(c.db, path);
     c.what = "performance collection " + collection_name(path);
+    c.require(sim::kRightPerformance);
     std::string strings[5] = {sim::in_text(r.dampver, "dampver"), sim::in_text(r.unitname, "unitname"),
                               sim::in_text(r.microver, "microver"), sim::in_text(r.serialno, "serialno"),
                               sim::in_text(r.structver, "structver")};

@@ -273,9 +273,10 @@ int KX_GetPoolInformation(const char* unit, const KXSessionInfoRec* session, Poo
 int KX_ChangePoolInformation(const char* unit, const KXSessionInfoRec* session, const ChgPoolInfoRec* change) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
     c.what = "pool";
-    c.session(unit, session, sim::kRightStorage);
+    c.session(unit, session);
     const auto& r = sim::in(change, "pool change");
     c.what = pool_name(r.ctl_no, r.pool_no);
+    c.require(sim::kRightStorage);
     need_pool(r.ctl_no, r.pool_no);
     if (r.poolinfo_chg_index != 0)
       fail(kBadParameter, "pool item " + std::to_string(r.poolinfo_chg_index) + " cannot be changed");
@@ -366,9 +367,10 @@ int KX_DeleteVVOL(const char* unit, const KXSessionInfoRec* session, int a, int 
 int KX_SetIntegrationLU(const char* unit, const KXSessionInfoRec* session, const IntegrationLUSetRec* set) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
     c.what = "unified LU";
-    c.session(unit, session, sim::kRightStorage);
+    c.session(unit, session);
     const auto& r = sim::in(set, "unified LU change");
     c.what = "unified LU " + std::to_string(r.parent_lun);
+    c.require(sim::kRightStorage);
     switch (r.operation) {
       case 0: join(c.db, r); break;
       case 1: release_all(c.db, r.parent_lun); break;

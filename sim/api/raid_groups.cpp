@@ -103,9 +103,10 @@ int KX_GetRaidGroups(const char* unit, RaidGroupRec* groups) {
 
 int KX_RaidGroupAdd(const char* unit, const RaidGroupRec* rg) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.unit_login(unit, sim::kRightStorage);
+    c.unit_login(unit);
     const RaidGroupRec& r = sim::in(rg, "RAID group");
     c.what = rg_name(r.rgnum);
+    c.require(sim::kRightStorage);
     sim::RgSpec spec;
     spec.number = r.rgnum;
     spec.level = r.level;
@@ -123,25 +124,28 @@ int KX_RaidGroupAdd(const char* unit, const RaidGroupRec* rg) {
 
 int KX_RaidGroupExpand(const char* unit, const RaidGroupRec* rg) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.unit_login(unit, sim::kRightStorage);
+    c.unit_login(unit);
     const RaidGroupRec& r = sim::in(rg, "RAID group");
     c.what = rg_name(r.rgnum);
+    c.require(sim::kRightStorage);
     sim::expand_raid_group(c.db, r.rgnum, block_of_drives(r));
   });
 }
 
 int KX_RaidGroupDelete(const char* unit, const KXSessionInfoRec* session, int rgnum) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.session(unit, session, sim::kRightStorage);
+    c.session(unit, session);
     c.what = rg_name(rgnum);
+    c.require(sim::kRightStorage);
     sim::delete_raid_group(c.db, rgnum);
   });
 }
 
 int KX_RaidGroupAllDelete(const char* unit, const KXSessionInfoRec* session) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.session(unit, session, sim::kRightStorage);
+    c.session(unit, session);
     c.what = "every RAID group";
+    c.require(sim::kRightStorage);
     // All or nothing: a group that holds LUs refuses and the transaction
     // takes back the groups deleted before it.
     for (const auto& g : sim::raid_groups(c.db)) sim::delete_raid_group(c.db, g.number);
@@ -150,9 +154,10 @@ int KX_RaidGroupAllDelete(const char* unit, const KXSessionInfoRec* session) {
 
 int KX_CreateRaidGroup(const char* unit, const KXSessionInfoRec* session, const CreateRaidGroupRec* create) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
-    c.session(unit, session, sim::kRightStorage);
+    c.session(unit, session);
     const CreateRaidGroupRec& r = sim::in(create, "RAID group to create");
     c.what = rg_name(r.rgnum);
+    c.require(sim::kRightStorage);
     auto g = sim::create_raid_group(c.db, spec_of(r));
     c.what = rg_name(g.number);
   });

@@ -182,7 +182,7 @@ int KX_GetWizardParam(const char* unit, const char* path, int x, WizardParamRec*
 int KX_SetWizardParam(const char* unit, const WizardParamRec* param, const char* path, int x) {
   return sim::run(__func__, sim::kWrite, [&](sim::Call& c) {
     c.what = "wizard parameters";
-    c.unit_login(unit, sim::kRightMaintenance);
+    c.unit_login(unit);
     need_target(x);
     const auto& p = sim::in(param, "wizard parameters");
     check(p);
@@ -192,6 +192,7 @@ int KX_SetWizardParam(const char* unit, const WizardParamRec* param, const char*
     }
     std::string file = sim::in_text(path, PERNIX_PATH_SIZE, "path");
     c.what = "wizard parameters to " + file;
+    c.require(sim::kRightMaintenance);
     std::string data(kParamMagic);
     data.append(reinterpret_cast<const char*>(&p), sizeof p);
     sim::write_file(file, data);

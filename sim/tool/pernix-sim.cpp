@@ -9,6 +9,9 @@
 //   pernix-sim faults clear [ID]
 //   pernix-sim clock [+S|-S|set EPOCH|real]
 //   pernix-sim audit [N]            the last N audit entries (default 20)
+//   pernix-sim pair WORDS...        what a host does through a command device:
+//                                   create mirror P S | create sync P R |
+//                                   create async P R G | split|resync|delete KIND LU
 //   pernix-sim codes                the simulator's result codes
 #include <cinttypes>
 #include <cstdio>
@@ -21,6 +24,7 @@
 #include "sim/core/call.h"
 #include "sim/core/codes.h"
 #include "sim/model/model.h"
+#include "sim/model/replication.h"
 
 namespace {
 
@@ -29,7 +33,7 @@ using sim::Db;
 int usage() {
   std::fputs(
       "usage: pernix-sim init | show | reset --yes | faults [add FUNCTION CODE [@always|@N|@pP[:SEED]] | "
-      "clear [ID]] | clock [+S|-S|set EPOCH|real] | audit [N] | codes\n"
+      "clear [ID]] | clock [+S|-S|set EPOCH|real] | audit [N] | pair WORDS... | codes\n"
       "The database is PERNIX_SIM_DB (default ~/.local/state/pernix-sim/array.db).\n",
       stderr);
   return 2;
@@ -274,6 +278,18 @@ int audit(Db& db, int argc, char** argv) {
   return 0;
 }
 
+// Copy pairs are made and split by hosts through a command device, not
+// through the array library: the tool plays that host.
+int pair(Db& db, int argc, char** argv) {
+  if (argc == 0) return usage();
+  std::vector<std::string> words(argv, argv + argc);
+  sim::Tx tx(db, sim::Tx::kWrite);
+  std::string done = sim::pair_command(db, sim::clock_now(db), words);
+  tx.commit();
+  std::printf("%s\n", done.c_str());
+  return 0;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -300,6 +316,7 @@ int main(int argc, char** argv) {
     if (cmd == "faults") return faults(db, argc - 2, argv + 2);
     if (cmd == "clock") return clock_cmd(db, argc - 2, argv + 2);
     if (cmd == "audit") return audit(db, argc - 2, argv + 2);
+    if (cmd == "pair") return pair(db, argc - 2, argv + 2);
     return usage();
   } catch (const sim::Error& e) {
     std::fprintf(stderr, "pernix-sim: %s: %s (code %d: %s)\n", Db::path_from_env().c_str(), e.what.c_str(),
