@@ -19,6 +19,8 @@
 #include <vector>
 
 #include "account.h"
+#include "host.h"
+#include "perf.h"
 #include "raid.h"
 #include "session.h"
 
@@ -63,6 +65,12 @@ int main(int argc, char** argv) {
   auto lu = std::make_unique<LogicalUnitRec>();
   auto groups = std::make_unique<RaidGroupInformationRec>();
   auto lus = std::make_unique<LogicalUnitRec[]>(PERNIX_LOGICAL_UNITS);
+  auto stats = std::make_unique<StatisticalInformationRec>();
+  auto perf0 = std::make_unique<PerformanceAllRec>();
+  auto perf1 = std::make_unique<PerformanceAllRec>();
+  auto mapping = std::make_unique<LuMappingRec>();
+  auto guard = std::make_unique<LuGuardInformationRec>();
+  HGOptionInfoRec hg_option{};
   PrefetchInformationRec prefetch{};
   if (int rc = KX_GetPrefetchInformation(unit, &session, &prefetch)) die("KX_GetPrefetchInformation", rc);
   int next = 0;
@@ -77,6 +85,11 @@ int main(int argc, char** argv) {
          return KX_SetPrefetchInformation(unit, &session, &prefetch);
        }},
       {"KX_GetLogicalUnit", [&] { return KX_GetLogicalUnit(unit, &session, lus.get()); }},
+      {"KX_GetStatisticalInformation", [&] { return KX_GetStatisticalInformation(unit, &session, 0, stats.get()); }},
+      {"KX_GetPerformanceAll", [&] { return KX_GetPerformanceAll(unit, &session, 0, perf0.get(), perf1.get()); }},
+      {"KX_GetLuMappingListAll", [&] { return KX_GetLuMappingListAll(unit, &session, mapping.get()); }},
+      {"KX_GetHGOption", [&] { return KX_GetHGOption(unit, &session, 0, 0, 0, &hg_option); }},
+      {"KX_GetLuGuardInformation", [&] { return KX_GetLuGuardInformation(unit, &session, guard.get()); }},
   };
 
   for (int k = 3; k < argc; ++k) {

@@ -76,6 +76,10 @@ public final class SimBench {
 
     private static final String[] CALL_NAMES = {"KX_GetUnitParam", "KX_GetLogicalUnit1", "KX_GetRaidGroupInformation",
         "KX_SetPrefetchInformation", "KX_GetLogicalUnit"};
+    /** Host access and performance: small records, then the largest trees (timed fewer times, like the LU list). */
+    private static final String[] FAMILY_SMALL = {"KX_GetHGOption", "KX_GetLuGuardInformation"};
+    private static final String[] FAMILY_LARGE = {"KX_GetLuMappingListAll", "KX_GetStatisticalInformation",
+        "KX_GetPerformanceAll"};
 
     static volatile Object sink;
 
@@ -152,6 +156,12 @@ public final class SimBench {
             if (l.length != 4096) throw new AssertionError("LU list of " + l.length);
             return l;
         })));
+        m.put("KX_GetHGOption", new Timed(null, checked(() -> Lib.JNI.KX_GetHGOption(UNIT, s, 0, 0, 0))));
+        m.put("KX_GetLuGuardInformation", new Timed(null, checked(() -> Lib.JNI.KX_GetLuGuardInformation(UNIT, s))));
+        m.put("KX_GetLuMappingListAll", new Timed(null, checked(() -> Lib.JNI.KX_GetLuMappingListAll(UNIT, s))));
+        m.put("KX_GetStatisticalInformation", new Timed(null,
+            checked(() -> Lib.JNI.KX_GetStatisticalInformation(UNIT, s, 0))));
+        m.put("KX_GetPerformanceAll", new Timed(null, checked(() -> Lib.JNI.KX_GetPerformanceAll(UNIT, s, 0))));
         return m;
     }
 
@@ -183,6 +193,15 @@ public final class SimBench {
         })));
         Case lus = new Cases.LogicalUnits();
         m.put("KX_GetLogicalUnit", new Timed(() -> lus.script(false), checked(lus::callNative)));
+        // One host group's options: eight ints (Linux, native multipath).
+        byte[] hg = new byte[32];
+        ByteBuffer.wrap(hg).order(ByteOrder.LITTLE_ENDIAN).putInt(16, 1).putInt(20, 1);
+        m.put("KX_GetHGOption", new Timed(() -> script("KX_GetHGOption", 5, hg),
+            checked(() -> Lib.JNI.KX_GetHGOption(UNIT, s, 0, 0, 0))));
+        for (Case c : List.of(new HostPortCases.LuGuardTable(), new LuMappingCase(), new PerfCases.Statistics(),
+                new PerfCases.Snapshots())) {
+            m.put(c.name(), new Timed(() -> c.script(false), checked(c::callNative)));
+        }
         return m;
     }
 
@@ -418,6 +437,7 @@ public final class SimBench {
             e.put("LD_LIBRARY_PATH", prop("simbench.simdir"));
             e.put("PERNIX_SIM_DB", file.toString());
             e.put("PERNIX_SIM_FAULTS", "");
+            e.put("PERNIX_SIM_TOOL", prop("simbench.tool"));  // the sample session's host and clock
             for (int i = 0; i + 1 < more.length; i += 2) e.put(more[i], more[i + 1]);
             return e;
         }
@@ -447,6 +467,13 @@ public final class SimBench {
                 library("lib", "default.db", CALLS, CALL_NAMES);
                 library("libfull", "full.db", CALLS, Arrays.copyOf(CALL_NAMES, CALL_NAMES.length - 1));
                 library("libfull", "full.db", fullListCalls(), "KX_GetLogicalUnit");
+                String small = String.join(" ", FAMILY_SMALL), large = String.join(" ", FAMILY_LARGE);
+                dbl.ask("round " + small + " " + CALLS, samples);
+                sim.ask("round " + small + " " + CALLS, samples);
+                dbl.ask("round " + large + " " + fullListCalls(), samples);
+                sim.ask("round " + large + " " + fullListCalls(), samples);
+                library("lib", "default.db", CALLS, FAMILY_SMALL);
+                library("lib", "default.db", fullListCalls(), FAMILY_LARGE);
                 System.err.printf("round %d of %d done%n", r + 1, ROUNDS);
             }
             dbl.quit();
@@ -541,7 +568,10 @@ public final class SimBench {
             System.out.println();
             System.out.printf(Locale.ROOT, "%-28s %-5s %8s %8s %8s %8s %8s %8s %8s %8s %8s%n", "call", "LUs",
                 "median", "p99", "double", "dbl p99", "sim-dbl", "library", "lib p99", "wall med", "wall p99");
-            for (String n : CALL_NAMES) {
+            List<String> names = new ArrayList<>(List.of(CALL_NAMES));
+            names.addAll(List.of(FAMILY_SMALL));
+            names.addAll(List.of(FAMILY_LARGE));
+            for (String n : names) {
                 Samples d = samples.get("double/" + n);
                 for (String model : List.of("sim", "full")) {
                     Samples s = samples.get(model + "/" + n);
