@@ -147,10 +147,15 @@ void random_bytes(void* p, size_t n) {
   randombytes_buf(p, n);
 }
 
+// Real time plus the offset, or, on a frozen clock, the moment it was frozen
+// plus the offset: time then moves only when it is stepped.
 int64_t clock_now(Db& db) {
-  auto s = db.sql("SELECT value FROM meta WHERE key='clock_offset'");
-  int64_t offset = s.step() ? std::atoll(s.text(0).c_str()) : 0;
-  return real_now() + offset;
+  auto s = db.sql(
+      "SELECT (SELECT value FROM meta WHERE key='clock_offset'), "
+      "(SELECT value FROM meta WHERE key='clock_frozen')");
+  if (!s.step()) return real_now();
+  int64_t offset = std::atoll(s.text(0).c_str());
+  return (s.is_null(1) ? real_now() : std::atoll(s.text(1).c_str())) + offset;
 }
 
 Call::Call(Db& d, const char* f, Kind k) : db(d), fn(f), kind(k), now(clock_now(d)) {}

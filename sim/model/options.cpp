@@ -62,6 +62,14 @@ Options Options::load(std::vector<std::string>* errors) {
            at = comma + 1;
          }
        }},
+      {"clock",
+       [&o, &bad](const std::string& name, const std::string& v) {
+         if (v == "real" || v == "frozen") {
+           o.frozen_clock = v == "frozen";
+         } else {
+           bad(name + ": '" + v + "' is neither real nor frozen");
+         }
+       }},
       {"ports", number(o.ports, 1, 4)},
       {"enclosures", number(o.enclosures, 1, 30)},
       {"drives", number(o.drives, 1, 450)},

@@ -22,6 +22,7 @@ struct Options {
   int drive_gb = 600;    // capacity of each drive in GB
   int raid_groups = 2;   // RAID groups made at seeding (0-90)
   int lus = 8;           // LUs made at seeding, spread over the RAID groups (0-4096)
+  bool frozen_clock = false;   // clock = frozen: time stands still but for steps
   int session_timeout = 1800;  // seconds a session lives without KX_KeepSession
   int password_min_length = 6;
 

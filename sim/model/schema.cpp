@@ -45,6 +45,7 @@ void create_core(Db& db, const Options& o) {
   set_meta(db, "array_ip1", o.ip1);
   set_meta(db, "array_serial", o.serial);
   set_meta(db, "clock_offset", "0");
+  if (o.frozen_clock) set_meta(db, "clock_frozen", std::to_string(static_cast<long long>(time(nullptr))));
   set_meta(db, "created", std::to_string(static_cast<long long>(time(nullptr))));
   set_meta(db, "session_timeout", std::to_string(o.session_timeout));
   set_meta(db, "password_min_length", std::to_string(o.password_min_length));

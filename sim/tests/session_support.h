@@ -85,6 +85,8 @@ inline std::string db_path;
 inline void fresh_db(const char* name) {
   db_path = dir().path + "/" + name + ".db";
   setenv("PERNIX_SIM_DB", db_path.c_str(), 1);
+  // Time moves only when a test steps it, however slow the machine.
+  setenv("PERNIX_SIM_CLOCK", "frozen", 1);
 }
 
 // Runs SQL on the database beside the simulator's own connection.

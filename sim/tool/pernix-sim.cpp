@@ -7,7 +7,7 @@
 //   pernix-sim faults               list the fault rules
 //   pernix-sim faults add FUNCTION CODE [@always|@N|@pP[:SEED]]
 //   pernix-sim faults clear [ID]
-//   pernix-sim clock [+S|-S|set EPOCH|real]
+//   pernix-sim clock [+S|-S|set EPOCH|freeze|real]
 //   pernix-sim audit [N]            the last N audit entries (default 20)
 //   pernix-sim pair WORDS...        what a host does through a command device:
 //                                   create mirror P S | create sync P R |
@@ -33,7 +33,7 @@ using sim::Db;
 int usage() {
   std::fputs(
       "usage: pernix-sim init | show | reset --yes | faults [add FUNCTION CODE [@always|@N|@pP[:SEED]] | "
-      "clear [ID]] | clock [+S|-S|set EPOCH|real] | audit [N] | pair WORDS... | codes\n"
+      "clear [ID]] | clock [+S|-S|set EPOCH|freeze|real] | audit [N] | pair WORDS... | codes\n"
       "The database is PERNIX_SIM_DB (default ~/.local/state/pernix-sim/array.db).\n",
       stderr);
   return 2;
@@ -241,16 +241,26 @@ int faults(Db& db, int argc, char** argv) {
 int clock_cmd(Db& db, int argc, char** argv) {
   sim::Tx tx(db, sim::Tx::kWrite);
   int64_t offset = std::atoll(sim::meta(db, "clock_offset", "0").c_str());
-  int64_t real = static_cast<int64_t>(std::time(nullptr));
+  std::string frozen = sim::meta(db, "clock_frozen");
+  int64_t base = frozen.empty() ? static_cast<int64_t>(std::time(nullptr)) : std::atoll(frozen.c_str());
   if (argc > 0) {
     std::string a = argv[0];
     char* end = nullptr;
     if (a == "real") {
       offset = 0;
+      frozen.clear();
+      base = static_cast<int64_t>(std::time(nullptr));
+      db.exec("DELETE FROM meta WHERE key='clock_frozen'");
+    } else if (a == "freeze") {
+      // Stands still at the simulator's present moment.
+      base += offset;
+      offset = 0;
+      frozen = std::to_string(base);
+      sim::set_meta(db, "clock_frozen", frozen);
     } else if (a == "set" && argc > 1) {
       int64_t t = std::strtoll(argv[1], &end, 10);
       if (*end) return usage();
-      offset = t - real;
+      offset = t - base;
     } else if (a[0] == '+' || a[0] == '-') {
       int64_t d = std::strtoll(a.c_str(), &end, 10);
       if (*end) return usage();
@@ -261,7 +271,8 @@ int clock_cmd(Db& db, int argc, char** argv) {
     sim::set_meta(db, "clock_offset", std::to_string(offset));
   }
   tx.commit();
-  std::printf("%s (offset %" PRId64 " s)\n", when(real + offset).c_str(), offset);
+  std::printf("%s (offset %" PRId64 " s%s)\n", when(base + offset).c_str(), offset,
+              frozen.empty() ? "" : ", frozen");
   return 0;
 }
 
