@@ -105,6 +105,13 @@ int show(Db& db) {
       std::printf("    %-16s %s / %s  group %s\n", s.text(0).c_str(), s.text(1).c_str(), s.text(2).c_str(),
                   s.text(3).c_str());
   }
+  {
+    // The password is kept only as a hash: what a new database would be
+    // seeded with is all the tool can tell.
+    sim::Options o = sim::Options::load();
+    std::printf("log in    as %s with password '%s' (the seeded administrator, unless changed since)\n",
+                o.admin_user.c_str(), o.admin_password.c_str());
+  }
   std::printf("accounts\n");
   {
     auto s = db.sql(
