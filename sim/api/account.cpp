@@ -29,19 +29,6 @@ using sim::Secret;
 constexpr int kUsersPerTable = 16;  // users of one file-based user table
 constexpr size_t kUserPasswordMax = 16;
 
-bool has_control(const std::string& s) {
-  for (unsigned char ch : s)
-    if (ch < 0x20 || ch == 0x7f) return true;
-  return false;
-}
-
-std::string account_name(const char* p, size_t cap, const char* what) {
-  std::string s = in_text(p, cap, what);
-  if (s.empty()) fail(sim::kBadParameter, std::string(what) + ": empty");
-  if (has_control(s)) fail(sim::kBadParameter, std::string(what) + ": control character");
-  return s;
-}
-
 bool ipv4(const std::string& s) {
   in_addr a;
   return inet_pton(AF_INET, s.c_str(), &a) == 1;
@@ -109,7 +96,7 @@ struct BaseIn {
 
 BaseIn read_base(Call& c, const KXAccountBaseInfoRec& r) {
   BaseIn b;
-  b.user = account_name(r.user_id, sizeof r.user_id, "user_id");
+  b.user = sim::in_name(r.user_id, sizeof r.user_id, "user_id");
   c.what = "account " + b.user;
   b.set_passwd = r.set_passwd;
   b.account_type = r.account_type;
@@ -137,7 +124,7 @@ int user_level(int a) {
 
 std::string user_name(const KXUserInfoRec& u) {
   std::string n = in_text(u.user, "user");
-  if (n.empty() || has_control(n)) fail(sim::kBadParameter, "user name");
+  if (n.empty() || sim::has_control(n)) fail(sim::kBadParameter, "user name");
   return n;
 }
 
@@ -292,7 +279,7 @@ int KX_LogoutKXAccountAlertCheck(const char* unit, const KXSessionInfoRec* sessi
 int KX_ForcedLogoutKXAccount(const char* unit, const KXSessionInfoRec* session, const ForcedLogoutInfoRec* info) {
   return sim::run(__func__, sim::kWrite, [&](Call& c) {
     c.session(unit, session);
-    std::string target = account_name(in(info, "info").user_id, sizeof info->user_id, "user_id");
+    std::string target = sim::in_name(in(info, "info").user_id, sizeof info->user_id, "user_id");
     c.what = "sessions of " + target;
     c.require(sim::kRightAccounts);
     Account a;
@@ -382,7 +369,7 @@ int KX_DeleteAccount(const char* unit, const KXSessionInfoRec* session, const KX
   return sim::run(__func__, sim::kWrite, [&](Call& c) {
     c.what = "account";
     c.session(unit, session);
-    std::string user = account_name(in(del, "account").user_id, sizeof del->user_id, "user_id");
+    std::string user = sim::in_name(in(del, "account").user_id, sizeof del->user_id, "user_id");
     c.what = "account " + user;
     c.require(sim::kRightAccounts);
     Account a;
@@ -477,7 +464,7 @@ int KX_SetAlertCheckUser(const AlertCheckUserRec* user) {
       if (name.empty() || !find_account(c, name, a) || !a.enabled) fail(sim::kAuthFailed, "no such enabled account");
       if (!sim::verify_password(a.hash, pw.str())) fail(sim::kAuthFailed, "wrong password");
       kept = a.hash;
-    } else if (has_control(name)) {
+    } else if (sim::has_control(name)) {
       fail(sim::kBadParameter, "user_id: control character");
     }
     auto s = c.db.sql("INSERT OR REPLACE INTO alert_check(id, user, enabled, hash) VALUES(1, ?1, ?2, ?3)");

@@ -29,19 +29,6 @@ constexpr int kMaxUnits = 256;     // registry entries
 constexpr int kMaxLoginMode = 255;  // unit-login modes 0..255
 constexpr int kRebootSeconds = 10;  // the unit answers "busy" this long after a reboot
 
-bool has_control(const std::string& s) {
-  for (unsigned char ch : s)
-    if (ch < 0x20 || ch == 0x7f) return true;
-  return false;
-}
-
-std::string name_text(const char* p, size_t cap, const char* what) {
-  std::string s = in_text(p, cap, what);
-  if (s.empty()) fail(sim::kBadParameter, std::string(what) + ": empty");
-  if (has_control(s)) fail(sim::kBadParameter, std::string(what) + ": control character");
-  return s;
-}
-
 // ---- the registry
 
 struct UnitIn {
@@ -52,12 +39,12 @@ struct UnitIn {
 UnitIn read_unit(const KXUnitParamRec* p) {
   const auto& r = in(p, "unit record");
   UnitIn u;
-  u.name = name_text(r.unit_name, sizeof r.unit_name, "unit_name");
+  u.name = sim::in_name(r.unit_name, sizeof r.unit_name, "unit_name");
   u.group = in_text(r.group_name, "group_name");
   u.ctl0 = in_text(r.ctl0, "ctl0");
   u.ctl1 = in_text(r.ctl1, "ctl1");
   u.serial = in_text(r.serial, "serial");
-  if (has_control(u.group) || has_control(u.ctl0) || has_control(u.ctl1) || has_control(u.serial))
+  if (sim::has_control(u.group) || sim::has_control(u.ctl0) || sim::has_control(u.ctl1) || sim::has_control(u.serial))
     fail(sim::kBadParameter, "control character in the unit record");
   u.connect_type = r.connect_type;
   u.kx_type = r.kx_type;
@@ -146,7 +133,7 @@ void fill_unit(const sim::Stmt& s, KXUnitParamRec& r) {
 int discover(const DiscoverEntryRec* entry, DiscoverUnitRec* unit, const char* fn) {
   return sim::run(fn, sim::kRead, [&](Call& c) {
     const auto& e = in(entry, "discovery entry");
-    std::string ip = name_text(e.ip_dev, sizeof e.ip_dev, "ip_dev");
+    std::string ip = sim::in_name(e.ip_dev, sizeof e.ip_dev, "ip_dev");
     auto s = c.db.sql("SELECT kx_type, device_type, unit_conf, ctlno, serial FROM discover WHERE ip=?1");
     s.bind(ip);
     if (!s.step()) fail(sim::kNoSuchObject, "no array answers at " + ip);
@@ -361,8 +348,8 @@ int KX_SetUnitIdentifier(const char* unit, const UnitIdentifierRec* id) {
       out_text(keep.ctl[i].id_front, in_text(r.ctl[i].id_front, "id_front"));
       out_text(keep.ctl[i].id_rear, in_text(r.ctl[i].id_rear, "id_rear"));
     }
-    if (has_control(keep.equipment_id) || has_control(keep.ctl[0].id_front) ||
-        has_control(keep.ctl[1].id_front) || has_control(keep.ctl[0].id_rear) || has_control(keep.ctl[1].id_rear))
+    if (sim::has_control(keep.equipment_id) || sim::has_control(keep.ctl[0].id_front) ||
+        sim::has_control(keep.ctl[1].id_front) || sim::has_control(keep.ctl[0].id_rear) || sim::has_control(keep.ctl[1].id_rear))
       fail(sim::kBadParameter, "control character in the identifier");
     sim::save_setting(c.db, "unit_identifier", &keep, sizeof keep);
   });
@@ -427,7 +414,7 @@ int KX_RgLuFileOutput(const char* unit, const char* path) {
   return sim::run(__func__, sim::kRead, [&](Call& c) {
     c.unit_login(unit);
     std::string u = c.where;
-    std::string file = name_text(path, 1024, "path");
+    std::string file = sim::in_name(path, 1024, "path");
     std::string text = "# RAID groups and LUs of unit " + u + ", serial " + sim::meta(c.db, "array_serial") + "\n";
     for (const auto& rg : sim::raid_groups(c.db)) {
       text += "raid_group " + std::to_string(rg.number) + " level " + std::to_string(rg.level) + " drives " +
@@ -448,7 +435,7 @@ int KX_RgLuFileOutput(const char* unit, const char* path) {
 
 int KX_ModifyInfo(const char* name, int value, char* result) {
   return sim::run(__func__, value < 0 ? sim::kRead : sim::kWrite, [&](Call& c) {
-    std::string n = name_text(name, 1024, "name");
+    std::string n = sim::in_name(name, 1024, "name");
     if (n.size() > 64) fail(sim::kBadParameter, "name longer than 64 bytes");
     c.what = n;
     if (!result) fail(sim::kBadParameter, "result: null");

@@ -25,6 +25,21 @@ std::string in_text(const char (&field)[N], const char* what) {
   return in_text(field, N, what);
 }
 
+// True when a string holds a control character (names never do).
+inline bool has_control(std::string_view s) {
+  for (unsigned char ch : s)
+    if (ch < 0x20 || ch == 0x7f) return true;
+  return false;
+}
+
+// A name: a string of its buffer, not empty, without control characters.
+inline std::string in_name(const char* p, size_t cap, const char* what) {
+  std::string s = in_text(p, cap, what);
+  if (s.empty()) fail(kBadParameter, std::string(what) + ": empty");
+  if (has_control(s)) fail(kBadParameter, std::string(what) + ": control character");
+  return s;
+}
+
 template <size_t N>
 void out_text(char (&field)[N], std::string_view s) {
   size_t n = s.size() < N - 1 ? s.size() : N - 1;
