@@ -68,12 +68,6 @@ void check_range(int v, int lo, int hi, const char* what) {
 
 // Settings kept whole: each getter reads back the record its setter stored,
 // or the default below.
-template <class Rec>
-Rec load(sim::Db& db, const char* key, const Rec& fallback) {
-  Rec r = fallback;
-  sim::load_setting(db, key, &r, sizeof r);
-  return r;
-}
 
 constexpr const char* kRestorationKey = "storage.drive_restoration";
 constexpr const char* kSataKey = "storage.sata_drive_information";
@@ -189,7 +183,7 @@ int KX_GetDiskDriveRestoration(const char* unit, const KXSessionInfoRec* session
   return sim::run(__func__, sim::kRead, [&](sim::Call& c) {
     c.session(unit, session);
     auto& out = sim::out(rec, "drive restoration");
-    out = load(c.db, kRestorationKey, restoration_default());
+    out = sim::setting_or(c.db, kRestorationKey, restoration_default());
   });
 }
 
@@ -214,7 +208,7 @@ int KX_GetSATADriveInformation(const char* unit, const KXSessionInfoRec* session
   return sim::run(__func__, sim::kRead, [&](sim::Call& c) {
     c.session(unit, session);
     auto& out = sim::out(rec, "SATA drive settings");
-    out = load(c.db, kSataKey, sata_default());
+    out = sim::setting_or(c.db, kSataKey, sata_default());
   });
 }
 
@@ -242,7 +236,7 @@ int KX_GetSATADriveRestoration(const char* unit, const KXSessionInfoRec* session
   return sim::run(__func__, sim::kRead, [&](sim::Call& c) {
     c.session(unit, session);
     auto& out = sim::out(rec, "SATA drive restoration");
-    out = load(c.db, kSataRestorationKey, SATADriveRestorationRec{3});
+    out = sim::setting_or(c.db, kSataRestorationKey, SATADriveRestorationRec{3});
   });
 }
 
@@ -261,7 +255,7 @@ int KX_GetDriveResponseDiag(const char* unit, const KXSessionInfoRec* session, D
   return sim::run(__func__, sim::kRead, [&](sim::Call& c) {
     c.session(unit, session);
     auto& out = sim::out(rec, "drive response diagnosis");
-    out = load(c.db, kDiagKey, diag_default());
+    out = sim::setting_or(c.db, kDiagKey, diag_default());
   });
 }
 

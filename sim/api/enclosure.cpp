@@ -38,17 +38,7 @@ void fill(ENCRevisionRec& r, const sim::EncRevision& e) {
   out_text(r.rev_ses, e.ses);
 }
 
-void fill_time(ENCReplaceTimeRec& r, int64_t t) {
-  time_t tt = static_cast<time_t>(t);
-  struct tm tm {};
-  gmtime_r(&tt, &tm);
-  r.year = tm.tm_year + 1900;
-  r.month = tm.tm_mon + 1;
-  r.day = tm.tm_mday;
-  r.hour = tm.tm_hour;
-  r.minute = tm.tm_min;
-  r.second = tm.tm_sec;
-}
+using sim::fill_time;
 
 void concat(Call& c, const char* unit, const KXSessionInfoRec* session, const char* path, int value) {
   c.session(unit, session, sim::kRightFirmware);
@@ -79,11 +69,7 @@ BootOptionRec boot_defaults() {
   return b;
 }
 
-void range(int v, int lo, int hi, const char* what) {
-  if (v < lo || v > hi)
-    fail(kBadParameter, std::string(what) + " " + std::to_string(v) + " is not within " + std::to_string(lo) +
-                            ".." + std::to_string(hi));
-}
+using sim::range;
 
 std::string boot_text(const char* field, size_t cap, const char* what, bool may_be_empty) {
   std::string s = in_text(field, cap, what);
@@ -110,15 +96,11 @@ BootOptionRec checked(const BootOptionRec& in) {
 }
 
 BootOptionRec load_boot(sim::Db& db) {
-  BootOptionRec b = boot_defaults();
-  sim::load_setting(db, kBootKey, &b, sizeof b);
-  return b;
+  return sim::setting_or(db, kBootKey, boot_defaults());
 }
 
 ENCDownloadOptionRec load_enc_option(sim::Db& db) {
-  ENCDownloadOptionRec o{};
-  sim::load_setting(db, kEncOptionKey, &o, sizeof o);
-  return o;
+  return sim::setting_or(db, kEncOptionKey, ENCDownloadOptionRec{});
 }
 
 constexpr size_t kBootFileLimit = 64 * 1024;

@@ -13,6 +13,7 @@
 #include <cstring>
 #include <map>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "host.h"
@@ -46,6 +47,26 @@ void in_secret(const char (&field)[N], sim::Plain& out, const std::string& what)
   auto end = static_cast<const char*>(std::memchr(field, 0, N));
   if (!end) fail(kBadParameter, what + ": not terminated within " + str(static_cast<int>(N)) + " bytes");
   out.assign(std::string_view(field, static_cast<size_t>(end - field)));
+}
+
+// The port a row's first two columns name in a record of all ports, marked
+// valid; null for a controller or port beyond the record.
+template <class All>
+auto* port_of(All& r, const sim::Stmt& s) {
+  int ctl = s.i(0), port = s.i(1);
+  using Port = std::remove_reference_t<decltype(r.ctl[0].port[0])>;
+  if (ctl < 0 || ctl >= sim::kIscsiCtls || port < 0 || port >= sim::kIscsiPortSlots) return static_cast<Port*>(nullptr);
+  auto& p = r.ctl[ctl].port[port];
+  p.port_valid = 1;
+  return &p;
+}
+
+// The slot in column col of a row, or -1 when the row has none (no entry
+// joined) or it lies beyond the cap slots of its table.
+int slot_of(const sim::Stmt& s, int col, int cap) {
+  if (s.is_null(col)) return -1;
+  int slot = s.i(col);
+  return slot < 0 || slot >= cap ? -1 : slot;
 }
 
 sim::TargetBitmap in_bits(const uint8_t (&b)[32]) {
@@ -180,15 +201,13 @@ int KX_GetiSCSITargetInformationAll(const char* unit, const KXSessionInfoRec* se
         "t.user_name FROM iscsi_ports p LEFT JOIN iscsi_targets t ON t.ctl=p.ctl AND t.port=p.port "
         "ORDER BY p.ctl, p.port, t.slot");
     while (s.step()) {
-      int ctl = s.i(0), port = s.i(1);
-      if (ctl < 0 || ctl >= sim::kIscsiCtls || port < 0 || port >= sim::kIscsiPortSlots) continue;
-      auto& p = r.ctl[ctl].port[port];
-      p.port_valid = 1;
+      auto* pp = port_of(r, s);
+      if (!pp) continue;
+      auto& p = *pp;
       p.security = s.i(2);
       p.target_max_count = sim::kIscsiTargets;
-      if (s.is_null(3)) continue;
-      int slot = s.i(3);
-      if (slot < 0 || slot >= sim::kIscsiTargets) continue;
+      int slot = slot_of(s, 3, sim::kIscsiTargets);
+      if (slot < 0) continue;
       auto& t = p.target[slot];
       ++p.target_count;
       t.target_valid = 1;
@@ -280,15 +299,13 @@ int KX_GetiSCSIInitiatorInformationAll(const char* unit, const KXSessionInfoRec*
         "FROM iscsi_ports p LEFT JOIN iscsi_initiators i ON i.ctl=p.ctl AND i.port=p.port "
         "ORDER BY p.ctl, p.port, i.slot");
     while (s.step()) {
-      int ctl = s.i(0), port = s.i(1);
-      if (ctl < 0 || ctl >= sim::kIscsiCtls || port < 0 || port >= sim::kIscsiPortSlots) continue;
-      auto& p = r.ctl[ctl].port[port];
-      p.port_valid = 1;
+      auto* pp = port_of(r, s);
+      if (!pp) continue;
+      auto& p = *pp;
       p.security = s.i(2);
       p.initiator_max_count = sim::kIscsiInitiators;
-      if (s.is_null(3)) continue;
-      int slot = s.i(3);
-      if (slot < 0 || slot >= sim::kIscsiInitiators) continue;
+      int slot = slot_of(s, 3, sim::kIscsiInitiators);
+      if (slot < 0) continue;
       auto& i = p.initiator[slot];
       ++p.initiator_count;
       i.initiator_valid = 1;
@@ -335,10 +352,9 @@ int KX_GetiSCSILoginInitiatorInformationAll(const char* unit, const KXSessionInf
         "AND (p.security=0 OR EXISTS(SELECT 1 FROM iscsi_initiators i WHERE i.ctl=h.ctl AND i.port=h.port "
         "AND i.iscsi_name=h.name)) ORDER BY p.ctl, p.port, h.seq");
     while (s.step()) {
-      int ctl = s.i(0), port = s.i(1);
-      if (ctl < 0 || ctl >= sim::kIscsiCtls || port < 0 || port >= sim::kIscsiPortSlots) continue;
-      auto& p = r.ctl[ctl].port[port];
-      p.port_valid = 1;
+      auto* pp = port_of(r, s);
+      if (!pp) continue;
+      auto& p = *pp;
       p.initiator_max_count = sim::kIscsiInitiators;
       if (s.is_null(2) || p.initiator_count >= sim::kIscsiInitiators) continue;
       auto& i = p.initiator[p.initiator_count++];
@@ -361,15 +377,13 @@ int KX_GetiSCSICHAPUserInformationAll(const char* unit, const KXSessionInfoRec* 
         "FROM iscsi_ports p LEFT JOIN chap_users u ON u.ctl=p.ctl AND u.port=p.port "
         "ORDER BY p.ctl, p.port, u.slot");
     while (s.step()) {
-      int ctl = s.i(0), port = s.i(1);
-      if (ctl < 0 || ctl >= sim::kIscsiCtls || port < 0 || port >= sim::kIscsiPortSlots) continue;
-      auto& p = r.ctl[ctl].port[port];
-      p.port_valid = 1;
+      auto* pp = port_of(r, s);
+      if (!pp) continue;
+      auto& p = *pp;
       p.security = s.i(2);
       p.user_max_count = sim::kChapUsers;
-      if (s.is_null(3)) continue;
-      int slot = s.i(3);
-      if (slot < 0 || slot >= sim::kChapUsers) continue;
+      int slot = slot_of(s, 3, sim::kChapUsers);
+      if (slot < 0) continue;
       auto& u = p.user[slot];
       ++p.user_count;
       u.user_valid = 1;

@@ -20,11 +20,7 @@ namespace {
 using sim::fail;
 using sim::kBadParameter;
 
-void range(int v, int lo, int hi, const std::string& what) {
-  if (v < lo || v > hi)
-    fail(kBadParameter, what + " " + std::to_string(v) + " is not within " + std::to_string(lo) +
-                            ".." + std::to_string(hi));
-}
+using sim::range;
 
 std::string slot(const char* what, int lun) { return std::string(what) + " of LU " + std::to_string(lun); }
 

@@ -29,23 +29,9 @@ constexpr const char* kRemoteKey = "replication.remote";
 constexpr const char* kAsyncKey = "replication.async_option";
 enum { kAttrPrimary = 0, kAttrSecondary = 1 };
 
-void range(int v, int lo, int hi, const std::string& what) {
-  if (v < lo || v > hi)
-    fail(kBadParameter, what + " " + std::to_string(v) + " is not within " + std::to_string(lo) + ".." + std::to_string(hi));
-}
+using sim::range;
 
-template <class T>
-void fill_time(T& r, int64_t t) {
-  time_t tt = static_cast<time_t>(t);
-  struct tm tm {};
-  gmtime_r(&tt, &tm);
-  r.year = tm.tm_year + 1900;
-  r.month = tm.tm_mon + 1;
-  r.day = tm.tm_mday;
-  r.hour = tm.tm_hour;
-  r.minute = tm.tm_min;
-  r.second = tm.tm_sec;
-}
+using sim::fill_time;
 
 void fill_span(KXApiTimeRec& r, int64_t secs) {
   if (secs < 0) secs = 0;
@@ -86,15 +72,7 @@ DMLUInformationRec dmlu_defaults() {
 FarsyncAsyncOptionRec async_defaults() { return {1, 1, 1, 0, 0, 300}; }
 
 FarsyncAsyncOptionRec async_option(sim::Db& db) {
-  FarsyncAsyncOptionRec o = async_defaults();
-  sim::load_setting(db, kAsyncKey, &o, sizeof o);
-  return o;
-}
-
-template <class T>
-T kept(sim::Db& db, const char* key, T fallback) {
-  sim::load_setting(db, key, &fallback, sizeof fallback);
-  return fallback;
+  return sim::setting_or(db, kAsyncKey, async_defaults());
 }
 
 void pair_lines(Call& c, int kind, std::vector<sim::Pair>& out) {
@@ -281,7 +259,7 @@ int KX_GetCommandDevice(const char* unit, const KXSessionInfoRec* session, Comma
   return sim::run(__func__, sim::kRead, [&](Call& c) {
     c.session(unit, session);
     auto& r = sim::out(dev, "command device");
-    r = kept(c.db, kCmdKey, cmd_defaults());
+    r = sim::setting_or(c.db, kCmdKey, cmd_defaults());
   });
 }
 
@@ -322,7 +300,7 @@ int KX_GetDMLU(const char* unit, const KXSessionInfoRec* session, DMLUInformatio
   return sim::run(__func__, sim::kRead, [&](Call& c) {
     c.session(unit, session);
     auto& r = sim::out(dmlu, "DMLU");
-    r = kept(c.db, kDmluKey, dmlu_defaults());
+    r = sim::setting_or(c.db, kDmluKey, dmlu_defaults());
   });
 }
 
@@ -372,7 +350,7 @@ int KX_GetRemoteDeviceInformation(const char* unit, const KXSessionInfoRec* sess
   return sim::run(__func__, sim::kRead, [&](Call& c) {
     c.session(unit, session);
     auto& r = sim::out(info, "information");
-    r = kept(c.db, kRemoteKey, RemoteDeviceInformationRec{});
+    r = sim::setting_or(c.db, kRemoteKey, RemoteDeviceInformationRec{});
   });
 }
 
@@ -389,7 +367,7 @@ int KX_SetRemoteDeviceInformation(const char* unit, const KXSessionInfoRec* sess
     std::string serial = printable_text(in.serial, sizeof in.serial, "serial");
     if (r.valid && serial.empty()) fail(kBadParameter, "a remote array needs its serial number");
     out_text(r.serial, serial);
-    RemoteDeviceInformationRec old = kept(c.db, kRemoteKey, RemoteDeviceInformationRec{});
+    RemoteDeviceInformationRec old = sim::setting_or(c.db, kRemoteKey, RemoteDeviceInformationRec{});
     if (sim::remote_pairs_exist(c.db) && (old.valid != r.valid || std::string(old.serial) != serial))
       fail(sim::kBusy, "remote pairs use the remote array");
     sim::save_setting(c.db, kRemoteKey, &r, sizeof r);

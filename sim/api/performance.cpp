@@ -29,11 +29,7 @@ constexpr int kMaxSamples = 288;                // samples a collection holds (a
 constexpr char kDataMagic[8] = {'P', 'X', 'S', 'I', 'M', 'G', 'R', '1'};
 constexpr const char* kMngMagic = "# pernix-sim performance collection 1";
 
-void range(int v, int lo, int hi, const std::string& what) {
-  if (v < lo || v > hi)
-    fail(kBadParameter, what + " " + std::to_string(v) + " is not within " + std::to_string(lo) + ".." +
-                            std::to_string(hi));
-}
+using sim::range;
 
 std::string fmt(double v) {
   char b[32];

@@ -20,11 +20,7 @@ constexpr const char* kParamKey = "wizard.param";
 // A parameter file: this line, then the record's bytes.
 constexpr std::string_view kParamMagic = "pernix-sim wizard parameters 1\n";
 
-void range(int v, int lo, int hi, const char* what) {
-  if (v < lo || v > hi)
-    fail(kBadParameter, std::string(what) + " " + std::to_string(v) + " is not within " +
-                            std::to_string(lo) + ".." + std::to_string(hi));
-}
+using sim::range;
 
 template <size_t N>
 std::string text(const char (&field)[N], const char* what) {

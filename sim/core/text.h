@@ -54,6 +54,14 @@ inline void out_text(char* field, size_t cap, std::string_view s) {
   std::memset(field + n, 0, cap - n);
 }
 
+// An int argument or field must lie within lo..hi; otherwise kBadParameter
+// naming what.
+inline void range(int v, int lo, int hi, std::string_view what) {
+  if (v < lo || v > hi)
+    fail(kBadParameter, std::string(what) + " " + std::to_string(v) + " is not within " + std::to_string(lo) +
+                            ".." + std::to_string(hi));
+}
+
 // An output record must be there; it is cleared before it is filled.
 template <class T>
 T& out(T* p, const char* what) {

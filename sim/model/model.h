@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstdint>
+#include <ctime>
 #include <string>
 #include <string_view>
 
@@ -28,6 +29,27 @@ void create_iscsi(Db& db, const Options& o);     // iSCSI ports, targets, initia
 // getter reads it back (or finds nothing and leaves its default).
 bool load_setting(Db& db, std::string_view key, void* rec, size_t size);
 void save_setting(Db& db, std::string_view key, const void* rec, size_t size);
+
+// The record kept under key, or fallback when none is kept.
+template <class Rec>
+Rec setting_or(Db& db, std::string_view key, Rec fallback) {
+  load_setting(db, key, &fallback, sizeof fallback);
+  return fallback;
+}
+
+// A calendar time record (year, month, day, hour, minute, second) in UTC.
+template <class T>
+void fill_time(T& r, int64_t t) {
+  time_t tt = static_cast<time_t>(t);
+  struct tm tm {};
+  gmtime_r(&tt, &tm);
+  r.year = tm.tm_year + 1900;
+  r.month = tm.tm_mon + 1;
+  r.day = tm.tm_mday;
+  r.hour = tm.tm_hour;
+  r.minute = tm.tm_min;
+  r.second = tm.tm_sec;
+}
 
 // A value of the meta table (array addresses, clock offset, options seeded).
 std::string meta(Db& db, std::string_view key, std::string_view fallback = {});
