@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <iterator>
 #include <map>
 #include <mutex>
 #include <sstream>
@@ -70,6 +71,11 @@ struct State {
   std::multimap<size_t, uint8_t*> spare_blocks;
   size_t spare_block_bytes = 0;
   std::vector<std::vector<uint8_t>> spare_copies;
+  // Hostile mode: every output gets seeded random bytes and every call a
+  // random result code, whatever was scripted.  Off after reset().
+  bool hostile = false;
+  uint64_t rng = 0;
+  int last_result = 0;
 };
 
 constexpr size_t kSpareMax = size_t{64} << 20;  // bytes of released blocks kept at most
@@ -108,6 +114,68 @@ bool has_poison_run(const uint8_t* p, size_t n) {
     ++i;
   }
   return false;
+}
+
+uint64_t next(State& s) {  // splitmix64
+  uint64_t z = (s.rng += 0x9E3779B97F4A7C15ull);
+  z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9ull;
+  z = (z ^ (z >> 27)) * 0x94D049BB133111EBull;
+  return z ^ (z >> 31);
+}
+
+// Fills p[0, n) the way a broken library might: random bytes, random bytes
+// without a single NUL (no string ends in its field), all 0xFF (every count
+// -1), all zeros, or int-sized words each a small count, a count far beyond
+// any table, a negative one, or random.
+void hostile_fill(State& s, uint8_t* p, size_t n) {
+  switch (next(s) % 5) {
+    case 0:
+    case 1: {
+      const bool no_nul = next(s) % 2 == 0;
+      for (size_t i = 0; i < n; i += 8) {
+        uint64_t w = next(s);
+        if (no_nul) w |= 0x0101010101010101ull & ~((w & 0x7F7F7F7F7F7F7F7Full) + 0x7F7F7F7F7F7F7F7Full);
+        std::memcpy(p + i, &w, std::min<size_t>(8, n - i));
+      }
+      if (no_nul) {
+        for (size_t i = 0; i < n; ++i) p[i] = p[i] == 0 ? 1 : p[i];
+      }
+      break;
+    }
+    case 2:
+      std::memset(p, 0xFF, n);
+      break;
+    case 3:
+      std::memset(p, 0, n);
+      break;
+    default:
+      for (size_t i = 0; i < n; i += 4) {
+        static constexpr int32_t kWords[] = {0, 1, 2, -1, -2, INT32_MAX, INT32_MIN, 0x7FFF, 65536, 1 << 24};
+        const uint64_t r = next(s);
+        int32_t w = 0;
+        switch (r % 4) {
+          case 0: w = static_cast<int32_t>((r >> 8) % 200); break;
+          case 1: w = kWords[(r >> 8) % std::size(kWords)]; break;
+          default: w = static_cast<int32_t>(r >> 32); break;
+        }
+        std::memcpy(p + i, &w, std::min<size_t>(4, n - i));
+      }
+      break;
+  }
+}
+
+int hostile_result(State& s) {
+  const uint64_t r = next(s);
+  switch (r % 16) {
+    case 0: return 256;
+    case 1: return static_cast<int32_t>(r >> 32);
+    case 2: return -1;
+    case 3: return 2817;
+    case 4: return 65535;
+    case 5: return 258;
+    case 6: return 1;
+    default: return 0;
+  }
 }
 
 }  // namespace
@@ -176,12 +244,20 @@ void record_int(Call& call, int32_t value) {
 }
 
 void serve(const char* fn, size_t index, void* p, size_t size) {
+  if (state().hostile) {
+    if (p != nullptr) hostile_fill(state(), static_cast<uint8_t*>(p), size);
+    return;
+  }
   auto it = state().outputs.find({fn, index});
   if (it == state().outputs.end() || p == nullptr) return;
   std::memcpy(p, it->second.data(), std::min(size, it->second.size()));
 }
 
 void serve_at(const char* fn, size_t index, size_t offset, void* p, size_t size) {
+  if (state().hostile) {
+    serve(fn, index, p, size);
+    return;
+  }
   auto it = state().outputs.find({fn, index});
   if (it == state().outputs.end() || p == nullptr || it->second.size() <= offset) return;
   std::memcpy(p, it->second.data() + offset, std::min(size, it->second.size() - offset));
@@ -191,6 +267,7 @@ int finish(const char* fn) {
   State& s = state();
   auto it = s.results.find(fn);
   int rc = it == s.results.end() ? 0 : it->second;
+  if (s.hostile) rc = s.last_result = hostile_result(s);
   s.mu.unlock();
   return rc;
 }
@@ -335,6 +412,7 @@ FAKE_JNI(void, reset)(JNIEnv*, jclass) {
   s.outputs.clear();
   s.allocations = 0;
   s.fail_at = 0;
+  s.hostile = false;
   // Blocks still live were leaked by whatever ran before: a fault, kept
   // until the test's own check takes it.
   if (!s.live.empty()) {
@@ -354,6 +432,18 @@ FAKE_JNI(void, reset)(JNIEnv*, jclass) {
 FAKE_JNI(void, willReturn)(JNIEnv* env, jclass, jstring fn, jint code) {
   std::lock_guard<std::recursive_mutex> lock(state().mu);
   state().results[utf(env, fn)] = code;
+}
+
+FAKE_JNI(void, hostile)(JNIEnv*, jclass, jlong seed) {
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  state().hostile = true;
+  state().rng = static_cast<uint64_t>(seed);
+  state().last_result = 0;
+}
+
+FAKE_JNI(jint, hostileResult)(JNIEnv*, jclass) {
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  return state().last_result;
 }
 
 FAKE_JNI(void, willWrite)(JNIEnv* env, jclass, jstring fn, jint arg, jbyteArray data) {

@@ -23,6 +23,16 @@ public final class FakePernix {
     /** Every later call of fn returns code. */
     public static native void willReturn(String fn, int code);
 
+    /**
+     * Until the next reset, every call of every function writes seeded random
+     * bytes into all its outputs and returns a random result code, whatever
+     * was scripted: the same seed, the same bytes and codes.
+     */
+    public static native void hostile(long seed);
+
+    /** The result code the last call returned in hostile mode. */
+    public static native int hostileResult();
+
     /** Every later call of fn writes data into its pointer argument arg (at most its size). */
     public static native void willWrite(String fn, int arg, byte[] data);
 

@@ -1,0 +1,38 @@
+#!/usr/bin/env bash
+# The hostile-library run at length: kxtest.HostileLibrary calls every native
+# with valid arguments while the test double answers each call with seeded
+# random output bytes and result codes, for `seeds` seeds from `first` (default
+# 1000 from 1), and fails on a crash, a JNI warning, a leaked or overrun block,
+# a result array whose length follows the library's bytes, or an exception
+# other than the expected codes.  A failure names its native and seed; replay
+# one with KX_HOSTILE_SEED=<seed> KX_HOSTILE_NATIVE=<native>.  The test command
+# runs seeds 1-40 (the `hostile` leg).
+#
+# usage: hostile.sh [seeds [first]]   after the build command (bash scripts/build.sh)
+#   KX_HOSTILE_BUILD  the x86-64 test build to load (default build/host); with
+#                     KX_HOSTILE_ASAN=1 its AddressSanitizer build (<build>/asan)
+set -euo pipefail
+cd "$(dirname "$0")/.."
+seeds=${1:-1000} first=${2:-1}
+[[ $seeds =~ ^[0-9]+$ && $first =~ ^-?[0-9]+$ ]] || { echo "hostile: usage: hostile.sh [seeds [first]]" >&2; exit 2; }
+build=${KX_HOSTILE_BUILD:-build/host}
+name=$(sed -n 's/^KX_LIBRARY_NAME:STRING=//p' "$build/CMakeCache.txt" 2>/dev/null || true)
+libs=$build sanitize=()
+if [ "${KX_HOSTILE_ASAN:-0}" = 1 ]; then
+  libs=$build/asan sanitize=(--sanitize=address,undefined)
+fi
+bridge=$libs/lib${name:-diskarrayjni}.so
+fake=$libs/fake/libpernix.so
+classes=$build/test-classes
+for f in "$bridge" "$fake" "$classes/base.stamp"; do
+  [ -e "$f" ] || { echo "hostile: $f is missing: run bash scripts/build.sh first" >&2; exit 1; }
+done
+junit=/usr/share/java/junit4.jar
+hamcrest=/usr/share/java/hamcrest-core.jar
+[ -e "$hamcrest" ] || hamcrest=/usr/share/java/hamcrest.jar
+props="-Dkx.hostile.seeds=$seeds -Dkx.hostile.first=$first"
+[ -n "${KX_HOSTILE_SEED:-}" ] && props="$props -Dkx.hostile.seed=$KX_HOSTILE_SEED"
+[ -n "${KX_HOSTILE_NATIVE:-}" ] && props="$props -Dkx.hostile.native=$KX_HOSTILE_NATIVE"
+export JAVA_TOOL_OPTIONS="$props${JAVA_TOOL_OPTIONS:+ $JAVA_TOOL_OPTIONS}"
+exec bash tests/run_jvm.sh ${sanitize[@]+"${sanitize[@]}"} "$classes/base:$junit:$hamcrest:$classes/exception" \
+  "$bridge" "$fake" kxtest.HostileLibrary
