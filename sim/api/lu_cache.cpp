@@ -102,7 +102,7 @@ int KX_GetPrefetchInformation(const char* unit, const KXSessionInfoRec* session,
   return sim::run(__func__, sim::kRead, [&](sim::Call& c) {
     c.session(unit, session);
     auto& p = sim::out(info, "prefetch information");
-    if (!sim::load_setting(c.db, kPrefetchKey, &p, sizeof p)) p = prefetch_defaults();
+    p = sim::setting_or(c.db, kPrefetchKey, prefetch_defaults());
   });
 }
 
@@ -250,7 +250,7 @@ int KX_GetTurboLU(const char* unit, const KXSessionInfoRec* session, TurboLuRec*
   return sim::run(__func__, sim::kRead, [&](sim::Call& c) {
     c.session(unit, session);
     auto& t = sim::out(turbo, "turbo LU");
-    if (!sim::load_setting(c.db, kTurboKey, &t, sizeof t)) t = turbo_defaults();
+    t = sim::setting_or(c.db, kTurboKey, turbo_defaults());
     // An LU deleted since is resident no more.
     for (auto& k : t.ctl) {
       if (k.current_assign && !sim::lu_exists(c.db, k.current_lun)) {
