@@ -13,6 +13,7 @@ import java.nio.file.Path;
 import org.junit.AfterClass;
 import org.junit.BeforeClass;
 import org.junit.Test;
+import org.junit.experimental.categories.Category;
 import orvane.str.diskarray.FibreInformation;
 import orvane.str.diskarray.FibreInformationPermission;
 import orvane.str.diskarray.FibreInformationSecurity;
@@ -75,6 +76,7 @@ public class FibreTest {
     // ---- ports and WWN security
 
     @Test
+    @Category(Smoke.class)
     public void portSettingsAndPermissionsReadBackInBothShapes() throws Exception {
         FibreInformation[] f = fibre();
         assertEquals("four ports", 0x0f, f[0].port_valid);

@@ -15,6 +15,7 @@ import java.nio.file.Paths;
 import org.junit.AfterClass;
 import org.junit.BeforeClass;
 import org.junit.Test;
+import org.junit.experimental.categories.Category;
 import orvane.str.diskarray.DeleteiSCSITarget;
 import orvane.str.diskarray.KXSessionInfo;
 import orvane.str.diskarray.KXiSCSICHAPUserInfo;
@@ -109,6 +110,7 @@ public class IscsiTest {
     // ---- ports
 
     @Test
+    @Category(Smoke.class)
     public void portSettingsReadBackAndARefusalChangesNothing() throws Exception {
         KXiSCSIPortInformation info = JNI.KX_GetiSCSIPortInformation(UNIT, s);
         assertEquals(2, info.ctl.length);

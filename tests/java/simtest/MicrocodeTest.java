@@ -13,6 +13,7 @@ import org.junit.After;
 import org.junit.AfterClass;
 import org.junit.BeforeClass;
 import org.junit.Test;
+import org.junit.experimental.categories.Category;
 import orvane.str.diskarray.KXSessionInfo;
 import orvane.str.diskarray.KXUserInfo;
 import orvane.str.diskarray.MicroFileInformation;
@@ -117,6 +118,7 @@ public class MicrocodeTest {
     // ---- the update
 
     @Test
+    @Category(Smoke.class)
     public void anUpdateStepsThroughItsStatesWithTheClock() throws Exception {
         String before = running();
         assertEquals(before, JNI.KX_GetNewMicroRevision());

@@ -18,6 +18,7 @@ import org.junit.After;
 import org.junit.AfterClass;
 import org.junit.BeforeClass;
 import org.junit.Test;
+import org.junit.experimental.categories.Category;
 import orvane.str.diskarray.BootOption;
 import orvane.str.diskarray.CommandDevice;
 import orvane.str.diskarray.DMLUInformation;
@@ -110,6 +111,7 @@ public class ReplicationTest {
     }
 
     @Test
+    @Category(Smoke.class)
     public void settingsReadBack() throws Exception {
         DMLUInformation d = dmlus(7);
         JNI.KX_SetDMLU(UNIT, s, d);
