@@ -178,20 +178,20 @@ int KX_LogicalUnitAdd(const char* unit, const KXSessionInfoRec* session, const L
     const LogicalUnitRec& r = sim::in(lu, "LU");
     c.what = lu_name(r.luNumber);
     c.require(sim::kRightStorage);
-    sim::LuSpec spec;
-    spec.number = r.luNumber;
-    spec.rg = r.rgNumber;
-    spec.blocks = r.capacity;
-    spec.staging = r.staging;
-    spec.stripe = r.stripe;
-    spec.hostblock = r.hostblock;
-    spec.use_type = r.lu_use_type;
-    spec.ctl = r.defaultCTL;
-    spec.cachepart = r.cachepart_no;
-    spec.pair_cachepart_valid = r.pair_cachepart_valid;
-    spec.pair_cachepart = r.pair_cachepart_no;
-    spec.status = sim::kLuUnformatted;
-    c.what = lu_name(sim::create_lu(c.db, spec));
+    sim::LuSpec want;
+    want.number = r.luNumber;
+    want.rg = r.rgNumber;
+    want.blocks = r.capacity;
+    want.staging = r.staging;
+    want.stripe = r.stripe;
+    want.hostblock = r.hostblock;
+    want.use_type = r.lu_use_type;
+    want.ctl = r.defaultCTL;
+    want.cachepart = r.cachepart_no;
+    want.pair_cachepart_valid = r.pair_cachepart_valid;
+    want.pair_cachepart = r.pair_cachepart_no;
+    want.status = sim::kLuUnformatted;
+    c.what = lu_name(sim::create_lu(c.db, want));
   });
 }
 

@@ -50,25 +50,25 @@ std::vector<std::pair<int, int>> block_of_drives(const RaidGroupRec& r) {
 }
 
 sim::RgSpec spec_of(const CreateRaidGroupRec& c) {
-  sim::RgSpec spec;
+  sim::RgSpec want;
   if (c.create_mode != 0 && c.create_mode != 1) fail(kBadParameter, "create mode is not 0 or 1");
-  spec.automatic = c.create_mode == 1;
-  spec.number = c.rgnum;
-  spec.level = c.level;
-  spec.per_group = c.parity_hdu_count;
-  spec.groups = c.parity_count == 0 ? 1 : c.parity_count;
-  if (sim::data_drives(spec.level, spec.per_group, spec.groups) < 0) {
-    if (!sim::valid_level(spec.level)) fail(kBadParameter, "RAID level " + std::to_string(spec.level) + " is not 0, 1, 5, 6 or 10");
-    fail(kBadParameter, "RAID" + std::to_string(spec.level) + " cannot be made of " + std::to_string(spec.groups) +
-                            " x " + std::to_string(spec.per_group) + " drives");
+  want.automatic = c.create_mode == 1;
+  want.number = c.rgnum;
+  want.level = c.level;
+  want.per_group = c.parity_hdu_count;
+  want.groups = c.parity_count == 0 ? 1 : c.parity_count;
+  if (sim::data_drives(want.level, want.per_group, want.groups) < 0) {
+    if (!sim::valid_level(want.level)) fail(kBadParameter, "RAID level " + std::to_string(want.level) + " is not 0, 1, 5, 6 or 10");
+    fail(kBadParameter, "RAID" + std::to_string(want.level) + " cannot be made of " + std::to_string(want.groups) +
+                            " x " + std::to_string(want.per_group) + " drives");
   }
-  spec.kind = c.drive_type;
-  spec.gb = c.drive_capa;
-  if (!spec.automatic) {
-    int total = spec.per_group * spec.groups;  // at most 450: checked above
-    for (int k = 0; k < total; ++k) spec.drives.push_back({c.rgdrv[k].unit_no, c.rgdrv[k].hdu_no});
+  want.kind = c.drive_type;
+  want.gb = c.drive_capa;
+  if (!want.automatic) {
+    int total = want.per_group * want.groups;  // at most 450: checked above
+    for (int k = 0; k < total; ++k) want.drives.push_back({c.rgdrv[k].unit_no, c.rgdrv[k].hdu_no});
   }
-  return spec;
+  return want;
 }
 
 }  // namespace
@@ -107,17 +107,17 @@ int KX_RaidGroupAdd(const char* unit, const RaidGroupRec* rg) {
     const RaidGroupRec& r = sim::in(rg, "RAID group");
     c.what = rg_name(r.rgnum);
     c.require(sim::kRightStorage);
-    sim::RgSpec spec;
-    spec.number = r.rgnum;
-    spec.level = r.level;
-    spec.drives = block_of_drives(r);
-    spec.per_group = r.width;
-    spec.groups = r.depth;
+    sim::RgSpec want;
+    want.number = r.rgnum;
+    want.level = r.level;
+    want.drives = block_of_drives(r);
+    want.per_group = r.width;
+    want.groups = r.depth;
     if (r.lastLBASet) {
       if (r.lastLBA < 0) fail(kBadParameter, "negative last LBA");
-      spec.last_lba = r.lastLBA;
+      want.last_lba = r.lastLBA;
     }
-    auto g = sim::create_raid_group(c.db, spec);
+    auto g = sim::create_raid_group(c.db, want);
     c.what = rg_name(g.number);
   });
 }

@@ -121,12 +121,12 @@ void create_storage(Db& db, const Options& o) {
   }
   int groups = std::min(o.raid_groups, n / 5);
   for (int g = 0; g < groups; ++g) {
-    RgSpec spec;
-    spec.number = g;
-    spec.level = 5;
-    spec.per_group = 5;
-    spec.automatic = true;
-    create_raid_group(db, spec);
+    RgSpec want;
+    want.number = g;
+    want.level = 5;
+    want.per_group = 5;
+    want.automatic = true;
+    create_raid_group(db, want);
   }
   if (groups == 0) return;
   int lus = std::min(o.lus, kMaxLus);
@@ -180,9 +180,9 @@ std::vector<Drive> drives(Db& db) {
 
 // ---- RAID groups
 
-RaidGroup plan_raid_group(Db& db, const RgSpec& spec, std::vector<std::pair<int, int>>* chosen) {
+RaidGroup plan_raid_group(Db& db, const RgSpec& want, std::vector<std::pair<int, int>>* chosen) {
   RaidGroup g;
-  if (spec.number == -1) {
+  if (want.number == -1) {
     std::set<int> used;
     auto s = db.sql("SELECT number FROM raid_groups");
     while (s.step()) used.insert(s.i(0));
@@ -194,34 +194,34 @@ RaidGroup plan_raid_group(Db& db, const RgSpec& spec, std::vector<std::pair<int,
       }
     if (g.number < 0) fail(kCapacity, "all 90 RAID group numbers are in use");
   } else {
-    if (spec.number < 0 || spec.number >= kMaxRaidGroups)
-      fail(kBadParameter, "RAID group number " + std::to_string(spec.number) + " is not 0-89");
-    if (find_raid_group(db, spec.number)) fail(kExists, "RAID group " + std::to_string(spec.number) + " exists");
-    g.number = spec.number;
+    if (want.number < 0 || want.number >= kMaxRaidGroups)
+      fail(kBadParameter, "RAID group number " + std::to_string(want.number) + " is not 0-89");
+    if (find_raid_group(db, want.number)) fail(kExists, "RAID group " + std::to_string(want.number) + " exists");
+    g.number = want.number;
   }
-  if (!valid_level(spec.level)) fail(kBadParameter, "RAID level " + std::to_string(spec.level) + " is not 0, 1, 5, 6 or 10");
-  int data = data_drives(spec.level, spec.per_group, spec.groups);
+  if (!valid_level(want.level)) fail(kBadParameter, "RAID level " + std::to_string(want.level) + " is not 0, 1, 5, 6 or 10");
+  int data = data_drives(want.level, want.per_group, want.groups);
   if (data < 0)
-    fail(kBadParameter, "RAID" + std::to_string(spec.level) + " cannot be made of " +
-                            std::to_string(spec.groups) + " x " + std::to_string(spec.per_group) + " drives");
-  size_t total = static_cast<size_t>(spec.per_group) * static_cast<size_t>(spec.groups);
+    fail(kBadParameter, "RAID" + std::to_string(want.level) + " cannot be made of " +
+                            std::to_string(want.groups) + " x " + std::to_string(want.per_group) + " drives");
+  size_t total = static_cast<size_t>(want.per_group) * static_cast<size_t>(want.groups);
   std::vector<Drive> taken;
-  if (spec.automatic) {
-    if (spec.kind < -1 || spec.kind > kDriveSSD) fail(kBadParameter, "unknown drive type " + std::to_string(spec.kind));
-    if (spec.gb < 0) fail(kBadParameter, "negative drive capacity");
+  if (want.automatic) {
+    if (want.kind < -1 || want.kind > kDriveSSD) fail(kBadParameter, "unknown drive type " + std::to_string(want.kind));
+    if (want.gb < 0) fail(kBadParameter, "negative drive capacity");
     auto s = db.sql(
         "SELECT enclosure, slot, blocks, kind, state, rg FROM drives WHERE rg IS NULL AND state='normal' "
         "AND (?1<0 OR kind=?1) AND (?2<=0 OR blocks=?3) ORDER BY enclosure, slot");
-    s.bind(spec.kind).bind(spec.gb).bind(gb_blocks(spec.gb));
+    s.bind(want.kind).bind(want.gb).bind(gb_blocks(want.gb));
     while (taken.size() < total && s.step()) taken.push_back(read_drive(s));
     if (taken.size() < total)
       fail(kCapacity, "only " + std::to_string(taken.size()) + " free drives of that kind, " +
                           std::to_string(total) + " needed");
   } else {
-    if (spec.drives.size() != total)
-      fail(kBadParameter, std::to_string(spec.drives.size()) + " drives named, " + std::to_string(total) + " needed");
+    if (want.drives.size() != total)
+      fail(kBadParameter, std::to_string(want.drives.size()) + " drives named, " + std::to_string(total) + " needed");
     std::set<std::pair<int, int>> seen;
-    for (auto [e, sl] : spec.drives) {
+    for (auto [e, sl] : want.drives) {
       if (e < 0 || e >= kMaxEnclosures || sl < 0 || sl >= kEnclosureSlots)
         fail(kBadParameter, "no drive position " + pos(e, sl));
       if (!seen.insert({e, sl}).second) fail(kBadParameter, "drive " + pos(e, sl) + " named twice");
@@ -237,13 +237,13 @@ RaidGroup plan_raid_group(Db& db, const RgSpec& spec, std::vector<std::pair<int,
   }
   int64_t smallest = taken.front().blocks;
   for (const auto& d : taken) smallest = std::min(smallest, d.blocks);
-  g.level = spec.level;
-  g.per_group = spec.per_group;
-  g.groups = spec.groups;
+  g.level = want.level;
+  g.per_group = want.per_group;
+  g.groups = want.groups;
   g.drive_blocks = smallest;
-  if (spec.last_lba >= 0) {
-    if (spec.last_lba >= smallest) fail(kBadParameter, "last LBA beyond the smallest drive");
-    g.drive_blocks = spec.last_lba + 1;
+  if (want.last_lba >= 0) {
+    if (want.last_lba >= smallest) fail(kBadParameter, "last LBA beyond the smallest drive");
+    g.drive_blocks = want.last_lba + 1;
   }
   g.capacity = data * g.drive_blocks;
   g.largest_free = g.capacity;
@@ -251,7 +251,7 @@ RaidGroup plan_raid_group(Db& db, const RgSpec& spec, std::vector<std::pair<int,
   g.first_slot = taken.front().slot;
   g.smallest_blocks = smallest;
   g.smallest_gb = static_cast<int>(smallest * kBlockBytes / kGB);
-  g.rg_type = spec.rg_type;
+  g.rg_type = want.rg_type;
   if (chosen) {
     chosen->clear();
     for (const auto& d : taken) chosen->push_back({d.enclosure, d.slot});
@@ -259,9 +259,9 @@ RaidGroup plan_raid_group(Db& db, const RgSpec& spec, std::vector<std::pair<int,
   return g;
 }
 
-RaidGroup create_raid_group(Db& db, const RgSpec& spec) {
+RaidGroup create_raid_group(Db& db, const RgSpec& want) {
   std::vector<std::pair<int, int>> chosen;
-  RaidGroup g = plan_raid_group(db, spec, &chosen);
+  RaidGroup g = plan_raid_group(db, want, &chosen);
   auto s = db.sql(
       "INSERT INTO raid_groups(number, level, per_group, groups, drive_blocks, capacity, rg_type, created) "
       "VALUES(?1,?2,?3,?4,?5,?6,?7,?8)");
@@ -426,8 +426,8 @@ bool lu_exists(Db& db, int lun) {
   return s.step();
 }
 
-int create_lu(Db& db, const LuSpec& spec) {
-  int number = spec.number;
+int create_lu(Db& db, const LuSpec& want) {
+  int number = want.number;
   if (number == -1) {
     auto s = db.sql("SELECT number FROM lus ORDER BY number");
     number = 0;
@@ -438,45 +438,45 @@ int create_lu(Db& db, const LuSpec& spec) {
   } else if (lu_exists(db, number)) {
     fail(kExists, "LU " + std::to_string(number) + " exists");
   }
-  if (spec.blocks <= 0 || spec.blocks > kMaxLuBlocks)
-    fail(kBadParameter, "LU size " + std::to_string(spec.blocks) + " blocks is not 1-2147483647");
-  int stripe = spec.stripe == 0 ? 256 : spec.stripe;
+  if (want.blocks <= 0 || want.blocks > kMaxLuBlocks)
+    fail(kBadParameter, "LU size " + std::to_string(want.blocks) + " blocks is not 1-2147483647");
+  int stripe = want.stripe == 0 ? 256 : want.stripe;
   if (stripe != 64 && stripe != 256 && stripe != 512) fail(kBadParameter, "stripe size is not 64, 256 or 512");
-  int hostblock = spec.hostblock == 0 ? 512 : spec.hostblock;
+  int hostblock = want.hostblock == 0 ? 512 : want.hostblock;
   if (hostblock != 512 && hostblock != 520 && hostblock != 4096)
     fail(kBadParameter, "host block size is not 512, 520 or 4096");
-  if (spec.ctl != 0 && spec.ctl != 1) fail(kBadParameter, "controller is not 0 or 1");
-  if (spec.staging < 0 || spec.staging > 2) fail(kBadParameter, "staging mode is not 0-2");
-  if (spec.use_type < 0 || spec.use_type > 15) fail(kBadParameter, "LU use type is not 0-15");
-  if (spec.cachepart < 0 || spec.cachepart > 15 || spec.pair_cachepart < 0 || spec.pair_cachepart > 15 ||
-      (spec.pair_cachepart_valid != 0 && spec.pair_cachepart_valid != 1))
+  if (want.ctl != 0 && want.ctl != 1) fail(kBadParameter, "controller is not 0 or 1");
+  if (want.staging < 0 || want.staging > 2) fail(kBadParameter, "staging mode is not 0-2");
+  if (want.use_type < 0 || want.use_type > 15) fail(kBadParameter, "LU use type is not 0-15");
+  if (want.cachepart < 0 || want.cachepart > 15 || want.pair_cachepart < 0 || want.pair_cachepart > 15 ||
+      (want.pair_cachepart_valid != 0 && want.pair_cachepart_valid != 1))
     fail(kBadParameter, "cache partition is not 0-15");
-  if (spec.status != kLuNormal && spec.status != kLuUnformatted) fail(kBadParameter, "LU status");
-  auto areas = rg_areas(db, spec.rg);  // kNoSuchObject for a missing group
+  if (want.status != kLuNormal && want.status != kLuUnformatted) fail(kBadParameter, "LU status");
+  auto areas = rg_areas(db, want.rg);  // kNoSuchObject for a missing group
   const Area* fit = nullptr;
-  if (spec.after >= 0) {
+  if (want.after >= 0) {
     for (size_t k = 0; k < areas.size(); ++k)
-      if (areas[k].lun == spec.after) {
+      if (areas[k].lun == want.after) {
         if (k + 1 < areas.size() && areas[k + 1].lun < 0) fit = &areas[k + 1];
         break;
       }
-    if (!fit && !lu_exists(db, spec.after))
-      fail(kNoSuchObject, "no LU " + std::to_string(spec.after) + " to place the new LU after");
+    if (!fit && !lu_exists(db, want.after))
+      fail(kNoSuchObject, "no LU " + std::to_string(want.after) + " to place the new LU after");
     if (!fit) {
       bool here = false;
-      for (const auto& a : areas) here |= a.lun == spec.after;
-      if (!here) fail(kBadParameter, "LU " + std::to_string(spec.after) + " is in another RAID group");
-      fail(kCapacity, "no free area after LU " + std::to_string(spec.after));
+      for (const auto& a : areas) here |= a.lun == want.after;
+      if (!here) fail(kBadParameter, "LU " + std::to_string(want.after) + " is in another RAID group");
+      fail(kCapacity, "no free area after LU " + std::to_string(want.after));
     }
-    if (fit->size < spec.blocks) fail(kCapacity, "the free area after LU " + std::to_string(spec.after) + " is too small");
+    if (fit->size < want.blocks) fail(kCapacity, "the free area after LU " + std::to_string(want.after) + " is too small");
   } else {
     for (const auto& a : areas)
-      if (a.lun < 0 && a.size >= spec.blocks) {
+      if (a.lun < 0 && a.size >= want.blocks) {
         fit = &a;
         break;
       }
-    if (!fit) fail(kCapacity, "no free area of RAID group " + std::to_string(spec.rg) + " holds " +
-                                  std::to_string(spec.blocks) + " blocks");
+    if (!fit) fail(kCapacity, "no free area of RAID group " + std::to_string(want.rg) + " holds " +
+                                  std::to_string(want.blocks) + " blocks");
   }
   auto count = db.sql("SELECT count(*) FROM lus");
   count.step();
@@ -485,9 +485,9 @@ int create_lu(Db& db, const LuSpec& spec) {
       "INSERT INTO lus(number, rg, start, size, status, prior_status, staging, stripe, hostblock, use_type, "
       "default_ctl, current_ctl, cachepart, pair_cachepart_valid, pair_cachepart, created) "
       "VALUES(?1,?2,?3,?4,?5,?5,?6,?7,?8,?9,?10,?10,?11,?12,?13,?14)");
-  s.bind(number).bind(spec.rg).bind(fit->start).bind(spec.blocks).bind(spec.status).bind(spec.staging)
-      .bind(stripe).bind(hostblock).bind(spec.use_type).bind(spec.ctl).bind(spec.cachepart)
-      .bind(spec.pair_cachepart_valid).bind(spec.pair_cachepart).bind(clock_now(db)).run();
+  s.bind(number).bind(want.rg).bind(fit->start).bind(want.blocks).bind(want.status).bind(want.staging)
+      .bind(stripe).bind(hostblock).bind(want.use_type).bind(want.ctl).bind(want.cachepart)
+      .bind(want.pair_cachepart_valid).bind(want.pair_cachepart).bind(clock_now(db)).run();
   return number;
 }
 

@@ -104,10 +104,10 @@ std::optional<Drive> find_drive(Db& db, int enclosure, int slot);
 std::vector<Drive> drives(Db& db);
 
 // ---- RAID groups
-// What a RAID group made from spec would look like, checked against the model
+// What a RAID group made as asked would look like, checked against the model
 // (nothing is changed).  The drives chosen are returned through `chosen`.
-RaidGroup plan_raid_group(Db& db, const RgSpec& spec, std::vector<std::pair<int, int>>* chosen = nullptr);
-RaidGroup create_raid_group(Db& db, const RgSpec& spec);
+RaidGroup plan_raid_group(Db& db, const RgSpec& want, std::vector<std::pair<int, int>>* chosen = nullptr);
+RaidGroup create_raid_group(Db& db, const RgSpec& want);
 std::optional<RaidGroup> find_raid_group(Db& db, int number);
 std::vector<RaidGroup> raid_groups(Db& db);
 // Adds drives to a group: its capacity grows at the end (a new free area).
@@ -120,7 +120,7 @@ bool rg_spun_down(Db& db, int number);
 std::vector<Area> rg_areas(Db& db, int number);
 
 // ---- LUs
-int create_lu(Db& db, const LuSpec& spec);  // returns the LU number
+int create_lu(Db& db, const LuSpec& want);  // returns the LU number
 // Refused while another family holds the LU (lu_holds) with kBusy.
 void delete_lu(Db& db, int lun);
 bool lu_exists(Db& db, int lun);
