@@ -110,7 +110,7 @@ std::string render_micro(const MicroPart& p) {
   }
   char sum[16];
   std::snprintf(sum, sizeof sum, "%08x", micro_checksum(p.payload));
-  s += "part " + std::to_string(p.part) + "/" + std::to_string(p.parts) + "\nlength " +
+  s += "piece " + std::to_string(p.part) + "/" + std::to_string(p.parts) + "\nlength " +
        std::to_string(p.payload.size()) + "\nchecksum " + sum + "\n\n";
   return s + p.payload;
 }
@@ -153,9 +153,9 @@ MicroPart parse_micro(std::string_view text) {
       p.enc.ses = v;
     } else if (key == "boot-wait") {
       p.boot_wait = static_cast<int>(number(v, 1, 3600, "boot-wait"));
-    } else if (key == "part") {
+    } else if (key == "piece") {
       size_t slash = v.find('/');
-      if (slash == std::string_view::npos) bad("part must be k/n");
+      if (slash == std::string_view::npos) bad("piece must be k/n");
       p.parts = static_cast<int>(number(v.substr(slash + 1), 1, 64, "part count"));
       p.part = static_cast<int>(number(v.substr(0, slash), 1, p.parts, "part number"));
       have_part = true;

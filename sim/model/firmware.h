@@ -21,7 +21,7 @@ namespace sim {
 //   revision 0960/A            (controller: 1..8 printable characters)
 //   main A0960                 (enclosure: main, boot, ectl, rtr, ses instead)
 //   boot-wait 60               (controller, optional: seconds a controller restarts)
-//   part 1/2
+//   piece 1/2                  (this file is piece 1 of 2)
 //   length 1048576
 //   checksum 0a1b2c3d          (FNV-1a, 32 bits, of the payload, 8 hex digits)
 //   <an empty line>

@@ -60,7 +60,7 @@ void open_secret(Db& db, const std::vector<uint8_t>& sealed, Plain& out);
 
 // ---- checks of untrusted values (kBadParameter naming what)
 
-// Dotted-decimal IPv4, four decimal parts 0..255 without leading zeros.
+// Dotted-decimal IPv4, four decimal numbers 0..255 without leading zeros.
 bool parse_ipv4(std::string_view s, uint32_t& out);
 // A subnet mask of 8..30 leading ones.
 bool parse_mask(std::string_view s, uint32_t& out);

@@ -27,7 +27,7 @@ uint32_t fnv(const std::string& s) {
 }
 
 std::string micro_file(const std::string& head, int part, int parts, const std::string& payload) {
-  return "pernix-microcode 1\n" + head + "part " + std::to_string(part) + "/" + std::to_string(parts) +
+  return "pernix-microcode 1\n" + head + "piece " + std::to_string(part) + "/" + std::to_string(parts) +
          "\nlength " + std::to_string(payload.size()) + "\nchecksum " + hex8(fnv(payload)) + "\n\n" + payload;
 }
 

@@ -64,7 +64,7 @@ public class MicrocodeTest {
 
     /** One part file: the header, an empty line, the payload. */
     static byte[] part(String head, int k, int n, byte[] payload) throws Exception {
-        String text = "pernix-microcode 1\n" + head + "part " + k + "/" + n + "\nlength " + payload.length
+        String text = "pernix-microcode 1\n" + head + "piece " + k + "/" + n + "\nlength " + payload.length
                 + "\nchecksum " + String.format("%08x", fnv1a(payload)) + "\n\n";
         ByteArrayOutputStream out = new ByteArrayOutputStream();
         out.write(text.getBytes(StandardCharsets.US_ASCII));
