@@ -100,10 +100,15 @@ if [ ${#pre[@]} -gt 0 ]; then
     preload="$list${preload:+:$preload}"
   fi
 fi
+# The record catalogue the hostile-input tests read: the test build's (the
+# sanitized builds sit inside it and have none of their own).
+fakedir=$(dirname "$fake")
+catalogue=$fakedir/../catalogue.txt
+[ -f "$catalogue" ] || catalogue=$fakedir/../../catalogue.txt
 env ${san_env[@]+"${san_env[@]}"} LD_LIBRARY_PATH="$(dirname "$fake")${LD_LIBRARY_PATH:+:$LD_LIBRARY_PATH}" \
   LD_PRELOAD="$preload" KX_PRELOAD32="$preload32" KX_FLUSH_FROM="$bridge" \
   "$java" -Xcheck:jni -ea -Dkx.library="$bridge" -Dkx.fake="$fake" -Dkx.seam="$seam_prop" \
-  -Dkx.frames="$frames" -Dkx.tests="$here" -Dkx.probe="$(dirname "$fake")/libkxprobe.so" \
+  -Dkx.frames="$frames" -Dkx.tests="$here" -Dkx.probe="$fakedir/libkxprobe.so" -Dkx.catalogue="$catalogue" \
   -XX:ErrorFile="${TMPDIR:-/tmp}/kx_hs_err_%p.log" -cp "$cp" kxtest.Runner "$@" 2>&1 | tee "$log"
 rc=${PIPESTATUS[0]}
 if grep -qE 'WARNING in native method|FATAL ERROR|WARNING: JNI|^Warning: ' "$log"; then
