@@ -47,6 +47,14 @@ if [ "$(od -An -tx1 -j4 -N1 "$bridge" | tr -d ' ')" = 01 ] && ! /lib/ld-linux.so
 fi
 
 libdir=$(cd "$(dirname "$bridge")" && pwd)
+# Absolute paths: the JVMs run in folders of their own.
+abs_cp=()
+IFS=: read -r -a entries <<<"$cp"
+for e in "${entries[@]}"; do
+  case "$e" in /*|'') abs_cp+=("$e") ;; *) abs_cp+=("$PWD/$e") ;; esac
+done
+cp=$(IFS=:; echo "${abs_cp[*]}")
+case "$tool" in /*) ;; */*) tool=$PWD/$tool ;; esac
 simdir=$(cd "$(dirname "$simlib")" && pwd)
 log=$(mktemp)
 work=$(mktemp -d)
@@ -69,11 +77,13 @@ for class in "$@"; do
   chmod 755 "$dir"
   # A frozen clock: time moves only when a test steps it, so what a test
   # expects after a step does not depend on how fast this machine runs.
-  env ${unset_sim[@]+"${unset_sim[@]}"} PERNIX_SIM_DB="$dir/array.db" PERNIX_SIM_CLOCK=frozen \
+  # Each class runs in its own folder: a file a test names by a relative path
+  # (or a hostile argument that happens to be one) lands there.
+  (cd "$dir" && exec env ${unset_sim[@]+"${unset_sim[@]}"} PERNIX_SIM_DB="$dir/array.db" PERNIX_SIM_CLOCK=frozen \
     LD_LIBRARY_PATH="$simdir${LD_LIBRARY_PATH:+:$LD_LIBRARY_PATH}" \
     "$java" -Xcheck:jni -ea ${jvm_opts[@]+"${jvm_opts[@]}"} -Djava.library.path="$libdir" \
     -Dsim.java="$(command -v "$java")" -Dsim.tool="$tool" -Dsim.dir="$dir" -Dsim.only="$only" \
-    -XX:ErrorFile="${TMPDIR:-/tmp}/kx_hs_err_%p.log" -cp "$cp" simtest.Runner "$class" 2>&1 | tee "$log"
+    -XX:ErrorFile="${TMPDIR:-/tmp}/kx_hs_err_%p.log" -cp "$cp" simtest.Runner "$class") 2>&1 | tee "$log"
   r=${PIPESTATUS[0]}
   if grep -qE 'WARNING in native method|FATAL ERROR|WARNING: JNI|^Warning: ' "$log"; then
     echo "run_sim: $class: the JVM reported JNI misuse (see above)"
