@@ -50,7 +50,28 @@ public final class HostileInputs {
         Class<?>[] types = m.getParameterTypes();
         Object[] args = new Object[types.length];
         for (int i = 0; i < types.length; i++) args[i] = value(types[i], null, 0, 0);
+        tame(m, args);
         return args;
+    }
+
+    /**
+     * Natives whose result is as many records as their int argument asks for:
+     * a count that a machine can just about allocate (gigabytes of records,
+     * millions of Java objects) is the caller's own folly, slow rather than
+     * wrong, and is asked as 65,536 instead; counts of 256 GB and more, which no
+     * allocation meets, stay.
+     */
+    static final Map<String, Integer> ARGUMENT_SIZED = Map.of("KX_GetUnitParamTable", 256);
+
+    public static void tame(Method m, Object[] args) {
+        Integer record = ARGUMENT_SIZED.get(m.getName());
+        if (record == null) return;
+        for (int i = 0; i < args.length; i++) {
+            if (args[i] instanceof Integer) {
+                long bytes = (long) (Integer) args[i] * record;
+                if ((Integer) args[i] > 65536 && bytes < (1L << 38)) args[i] = 65536;
+            }
+        }
     }
 
     /** A hostile value of type t; f (may be null) is the described field it fills. */

@@ -39,8 +39,6 @@ public class HostileLibrary extends BridgeTest {
      */
     static final Map<String, Integer> COUNTED = Map.of(
         "KX_GetLabelList", 20, "KX_GetLabelList2", 64, "KX_FibreInfoPermissionImport", 128);
-    /** Natives whose result array is as long as their int argument, the caller's count. */
-    static final java.util.Set<String> ARGUMENT_SIZED = java.util.Set.of("KX_GetUnitParamTable");
 
     final List<String> problems = new ArrayList<>();
     /** Per native, per array path in its result: the length first seen and the seed that showed it. */
@@ -150,7 +148,7 @@ public class HostileLibrary extends BridgeTest {
             return;
         }
         results++;
-        if (ARGUMENT_SIZED.contains(r.name) && result[0] != null) {
+        if (HostileInputs.ARGUMENT_SIZED.containsKey(r.name) && result[0] != null) {
             int asked = (Integer) args[java.util.Arrays.asList(types).indexOf(int.class)];
             if (Array.getLength(result[0]) != asked) {
                 problems.add(where + ": result holds " + Array.getLength(result[0]) + " elements, " + asked + " asked");
@@ -172,7 +170,7 @@ public class HostileLibrary extends BridgeTest {
             int length = Array.getLength(o);
             arrays++;
             Integer capacity = top ? COUNTED.get(name) : null;
-            if (top && ARGUMENT_SIZED.contains(name)) {
+            if (top && HostileInputs.ARGUMENT_SIZED.containsKey(name)) {
                 // checked against the argument
             } else if (capacity != null) {
                 if (length > capacity) {

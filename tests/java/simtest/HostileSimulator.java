@@ -30,10 +30,13 @@ import org.junit.Test;
  *
  * Not a *Test: the sim-hostile leg runs it by name.  Properties:
  * kx.hostile.seeds (default 6), kx.hostile.first (default 1),
- * kx.hostile.native (only this native).  A failure names its native and seed.
+ * kx.hostile.native (only this native), kx.hostile.trace (print each call
+ * before it is made).  A failure names its native and seed.
  */
 public class HostileSimulator {
     static final DiskArrayUtilityJNI JNI = Sim.JNI;
+
+    static final boolean TRACE = Boolean.getBoolean("kx.hostile.trace");
 
     final List<String> problems = new ArrayList<>();
     final Map<Integer, Integer> codes = new TreeMap<>();
@@ -89,12 +92,16 @@ public class HostileSimulator {
         }
         String where = m.getName() + " seed " + seed;
         calls++;
+        if (TRACE) System.out.println("sim-hostile: " + where);
         Throwable thrown = null;
+        long t0 = System.nanoTime();
         try {
             m.invoke(JNI, args);
         } catch (InvocationTargetException e) {
             thrown = e.getCause();
         }
+        long ms = (System.nanoTime() - t0) / 1_000_000;
+        if (ms > 5000) problems.add(where + ": took " + ms + " ms");
         if (thrown == null) return;
         if (thrown instanceof DiskArrayException) {
             int code = ((DiskArrayException) thrown).getCode();
