@@ -11,6 +11,11 @@
 # usage: hostile.sh [seeds [first]]   after the build command (bash scripts/build.sh)
 #   KX_HOSTILE_BUILD  the x86-64 test build to load (default build/host); with
 #                     KX_HOSTILE_ASAN=1 its AddressSanitizer build (<build>/asan)
+#   KX_HOSTILE_PAGES  1: the test double's seam in page mode (KX_SEAM_PAGES=1):
+#                     every block ends at an inaccessible page and released
+#                     blocks are inaccessible, so a read past a block or after
+#                     its release crashes the JVM where it happens (the
+#                     hostile-pages leg runs seeds 61-80 so)
 set -euo pipefail
 cd "$(dirname "$0")/.."
 seeds=${1:-1000} first=${2:-1}
@@ -34,5 +39,8 @@ props="-Dkx.hostile.seeds=$seeds -Dkx.hostile.first=$first"
 [ -n "${KX_HOSTILE_SEED:-}" ] && props="$props -Dkx.hostile.seed=$KX_HOSTILE_SEED"
 [ -n "${KX_HOSTILE_NATIVE:-}" ] && props="$props -Dkx.hostile.native=$KX_HOSTILE_NATIVE"
 export JAVA_TOOL_OPTIONS="$props${JAVA_TOOL_OPTIONS:+ $JAVA_TOOL_OPTIONS}"
+if [ "${KX_HOSTILE_PAGES:-0}" = 1 ]; then
+  export KX_SEAM_PAGES=1
+fi
 exec bash tests/run_jvm.sh ${sanitize[@]+"${sanitize[@]}"} "$classes/base:$junit:$hamcrest:$classes/exception" \
   "$bridge" "$fake" kxtest.HostileLibrary

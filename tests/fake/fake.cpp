@@ -1,10 +1,25 @@
 // Call log, scripts and the allocation seam of the test double, and the
 // natives of kxtest.FakePernix through which the JVM tests drive them.
+//
+// Page mode of the seam: with KX_SEAM_PAGES=1 in the environment when the
+// double loads (or after FakePernix.seamPages(true)), every block is a mapping
+// of its own that ends exactly where an inaccessible page begins, with one
+// more before it; the rest of its first page holds guard bytes, checked on
+// release like the usual front guard.  Sizes are not rounded, so a block may
+// start unaligned (x86 reads it all the same).  A released block's pages are
+// dropped and its addresses stay inaccessible, in a quarantine of the last
+// kQuarantineBlocks blocks, before they are given back to the system: a read
+// one byte past a block, or of a released one, kills the process with SIGSEGV
+// where it happens.  Every check of the seam (leaks, guards, wiping, release
+// states, failed allocations) works as without it; nothing is reused, so it
+// costs a system call or two and fresh pages per block.
 #include "fake.h"
 
 #include <jni.h>
 
 #include <dlfcn.h>
+#include <sys/mman.h>
+#include <unistd.h>
 
 #ifdef __SANITIZE_ADDRESS__
 #include <sanitizer/asan_interface.h>
@@ -12,6 +27,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <deque>
 #include <iterator>
 #include <map>
 #include <mutex>
@@ -43,10 +59,24 @@ void hide(const void*, size_t) {}
 void show(const void*, size_t) {}
 #endif
 
+bool env_on(const char* name) {
+  const char* v = std::getenv(name);
+  return v != nullptr && std::strcmp(v, "1") == 0;
+}
+
 struct Block {
   size_t bytes = 0;
   long call = -1;  // the call that was handed the block, and as which argument
   size_t arg = 0;
+  // Page mode: the block's own mapping, inaccessible pages included (null:
+  // the block sits kGuard bytes into a malloc'd one).
+  uint8_t* map = nullptr;
+  size_t map_bytes = 0;
+};
+
+struct Mapping {
+  uint8_t* at;
+  size_t bytes;
 };
 
 struct State {
@@ -76,9 +106,17 @@ struct State {
   bool hostile = false;
   uint64_t rng = 0;
   int last_result = 0;
+  // Page mode (see the top of this file); reset() leaves it as it is.
+  bool pages = env_on("KX_SEAM_PAGES");
+  std::deque<Mapping> quarantine;  // released blocks' mappings, oldest first
+  size_t quarantine_bytes = 0;
 };
 
 constexpr size_t kSpareMax = size_t{64} << 20;  // bytes of released blocks kept at most
+// Page mode: released blocks' address ranges kept inaccessible at most (they
+// hold no memory, only addresses; a 32-bit process has few to spare).
+constexpr size_t kQuarantineBlocks = 4096;
+constexpr size_t kQuarantineBytes = size_t{1} << (sizeof(void*) == 8 ? 30 : 26);
 constexpr size_t kSpareCopyMin = size_t{64} << 10;  // smaller copies are not worth keeping
 constexpr size_t kSpareCopies = 16;
 
@@ -114,6 +152,109 @@ bool has_poison_run(const uint8_t* p, size_t n) {
     ++i;
   }
   return false;
+}
+
+// Whether p[0, n) holds nothing but `byte`.
+bool holds_only(const uint8_t* p, size_t n, uint8_t byte) {
+  return std::all_of(p, p + n, [byte](uint8_t b) { return b == byte; });
+}
+
+size_t page_size() {
+  static const auto page = static_cast<size_t>(sysconf(_SC_PAGESIZE));
+  return page;
+}
+
+// The guard bytes around a block: kGuard bytes each side of a malloc'd one;
+// the rest of the first page before a mapped one (its end is an inaccessible
+// page).
+struct Guards {
+  uint8_t* front;
+  size_t front_bytes;
+  size_t rear_bytes;
+};
+
+Guards guards_of(const Block& b, void* block) {
+  auto* p = static_cast<uint8_t*>(block);
+  if (b.map == nullptr) return {p - kGuard, kGuard, kGuard};
+  uint8_t* first = b.map + page_size();
+  return {first, static_cast<size_t>(p - first), 0};
+}
+
+// Page mode: a block of its own mapping, between inaccessible pages, filled
+// with kPoisonByte; null when the system has no room for it.
+uint8_t* mapped_block(size_t bytes, Block& b) {
+  const size_t page = page_size();
+  const size_t body = (kGuard + bytes + page - 1) / page * page;
+  void* m = mmap(nullptr, body + 2 * page, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+  if (m == MAP_FAILED) return nullptr;
+  auto* map = static_cast<uint8_t*>(m);
+  if (mprotect(map + page, body, PROT_READ | PROT_WRITE) != 0) {
+    munmap(map, body + 2 * page);
+    return nullptr;
+  }
+  b.map = map;
+  b.map_bytes = body + 2 * page;
+  uint8_t* block = map + page + body - bytes;
+  std::memset(map + page, kGuardByte, body - bytes);
+  std::memset(block, kPoisonByte, bytes);
+  hide(map + page, body - bytes);
+  return block;
+}
+
+// A block from the spare ones or from malloc, filled with kPoisonByte, with
+// kGuard guard bytes each side; null when malloc fails.
+uint8_t* heap_block(State& s, size_t bytes) {
+  uint8_t* raw = nullptr;
+  auto spare = s.spare_blocks.find(bytes + 2 * kGuard);
+  if (spare != s.spare_blocks.end()) {
+    raw = spare->second;
+    s.spare_block_bytes -= spare->first;
+    s.spare_blocks.erase(spare);
+    show(raw, bytes + 2 * kGuard);
+  } else {
+    raw = static_cast<uint8_t*>(std::malloc(bytes + 2 * kGuard));
+    if (raw == nullptr) return nullptr;
+    std::memset(raw + kGuard, kPoisonByte, bytes);
+  }
+  std::memset(raw, kGuardByte, kGuard);
+  std::memset(raw + kGuard + bytes, kGuardByte, kGuard);
+  hide(raw, kGuard);
+  hide(raw + kGuard + bytes, kGuard);
+  return raw + kGuard;
+}
+
+void unmap(const Mapping& m) {
+  show(m.at, m.bytes);
+  munmap(m.at, m.bytes);
+}
+
+// A released mapped block: its pages go back to the system, its addresses
+// stay reserved and inaccessible until kQuarantineBlocks later releases (or
+// kQuarantineBytes of them) push it out.
+void quarantine(State& s, const Block& b) {
+  if (mmap(b.map, b.map_bytes, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE | MAP_FIXED, -1, 0) ==
+      MAP_FAILED) {
+    mprotect(b.map, b.map_bytes, PROT_NONE);  // keeps the pages, never the access
+  }
+  hide(b.map, b.map_bytes);
+  s.quarantine.push_back({b.map, b.map_bytes});
+  s.quarantine_bytes += b.map_bytes;
+  while (s.quarantine.size() > kQuarantineBlocks || s.quarantine_bytes > kQuarantineBytes) {
+    unmap(s.quarantine.front());
+    s.quarantine_bytes -= s.quarantine.front().bytes;
+    s.quarantine.pop_front();
+  }
+}
+
+// A block that is never coming back (leaked, forgotten by reset()).
+void discard(const Block& b, void* block) {
+  if (b.map != nullptr) {
+    unmap({b.map, b.map_bytes});
+    return;
+  }
+  auto* raw = static_cast<uint8_t*>(block) - kGuard;
+  show(raw, b.bytes + 2 * kGuard);
+  std::free(raw);
 }
 
 uint64_t next(State& s) {  // splitmix64
@@ -281,26 +422,13 @@ extern "C" __attribute__((visibility("default"))) void* pernix_seam_alloc(size_t
   State& s = state();
   std::lock_guard<std::recursive_mutex> lock(s.mu);
   if (++s.allocations == s.fail_at) return nullptr;
-  uint8_t* raw = nullptr;
-  auto spare = s.spare_blocks.find(bytes + 2 * kGuard);
-  if (spare != s.spare_blocks.end()) {
-    raw = spare->second;
-    s.spare_block_bytes -= spare->first;
-    s.spare_blocks.erase(spare);
-    show(raw, bytes + 2 * kGuard);
-  } else {
-    raw = static_cast<uint8_t*>(std::malloc(bytes + 2 * kGuard));
-    if (raw == nullptr) return nullptr;
-    std::memset(raw + kGuard, kPoisonByte, bytes);
-  }
-  std::memset(raw, kGuardByte, kGuard);
-  std::memset(raw + kGuard + bytes, kGuardByte, kGuard);
-  hide(raw, kGuard);
-  hide(raw + kGuard + bytes, kGuard);
-  s.live[raw + kGuard] = Block{bytes};
+  Block b{bytes};
+  uint8_t* block = s.pages ? mapped_block(bytes, b) : heap_block(s, bytes);
+  if (block == nullptr) return nullptr;
+  s.live[block] = b;
   s.live_bytes += bytes;
   s.peak_bytes = std::max(s.peak_bytes, s.live_bytes);
-  return raw + kGuard;
+  return block;
 }
 
 extern "C" __attribute__((visibility("default"))) void pernix_seam_free(void* block, size_t bytes,
@@ -318,15 +446,13 @@ extern "C" __attribute__((visibility("default"))) void pernix_seam_free(void* bl
     s.faults.push_back("block of " + std::to_string(b.bytes) + " bytes released as " +
                        std::to_string(bytes));
   }
-  auto* raw = static_cast<uint8_t*>(block) - kGuard;
-  show(raw, b.bytes + 2 * kGuard);
-  for (size_t i = 0; i < kGuard; ++i) {
-    if (raw[i] != kGuardByte || raw[kGuard + b.bytes + i] != kGuardByte) {
-      s.faults.push_back("guard bytes of a " + std::to_string(b.bytes) + "-byte block overwritten");
-      break;
-    }
+  auto* p = static_cast<uint8_t*>(block);
+  const Guards g = guards_of(b, block);
+  show(g.front, g.front_bytes + b.bytes + g.rear_bytes);
+  if (!holds_only(g.front, g.front_bytes, kGuardByte) || !holds_only(p + b.bytes, g.rear_bytes, kGuardByte)) {
+    s.faults.push_back("guard bytes of a " + std::to_string(b.bytes) + "-byte block overwritten");
   }
-  const size_t data_at = first_nonzero(raw + kGuard, b.bytes);
+  const size_t data_at = first_nonzero(p, b.bytes);
   if (data_at < b.bytes) ++s.unwiped[b.bytes];
   s.live_bytes -= b.bytes;
   if (wipe != 0 && data_at < b.bytes) {
@@ -339,6 +465,11 @@ extern "C" __attribute__((visibility("default"))) void pernix_seam_free(void* bl
     if (b.arg < args.size()) args[b.arg].release = wipe != 0 ? Arg::ReleasedWiped : Arg::Released;
   }
   s.live.erase(it);
+  if (b.map != nullptr) {
+    quarantine(s, b);
+    return;
+  }
+  uint8_t* raw = g.front;
   std::memset(raw, kPoisonByte, b.bytes + 2 * kGuard);
   if (s.spare_block_bytes + b.bytes + 2 * kGuard <= kSpareMax) {
     s.spare_blocks.emplace(b.bytes + 2 * kGuard, raw);
@@ -417,11 +548,7 @@ FAKE_JNI(void, reset)(JNIEnv*, jclass) {
   // until the test's own check takes it.
   if (!s.live.empty()) {
     s.faults.push_back(std::to_string(s.live.size()) + " block(s) never released");
-    for (auto& [block, b] : s.live) {
-      auto* raw = static_cast<uint8_t*>(const_cast<void*>(block)) - fake::kGuard;
-      fake::show(raw, b.bytes + 2 * fake::kGuard);
-      std::free(raw);
-    }
+    for (auto& [block, b] : s.live) fake::discard(b, const_cast<void*>(block));
     s.live.clear();
   }
   s.unwiped.clear();
@@ -574,3 +701,46 @@ FAKE_JNI(jintArray, releaseStates)(JNIEnv* env, jclass, jstring fn, jint call) {
   if (out != nullptr) env->SetIntArrayRegion(out, 0, static_cast<jsize>(r.size()), r.data());
   return out;
 }
+
+// Switches the seam's page mode (see the top of this file) for the blocks
+// allocated from now on; answers whether it was on.
+FAKE_JNI(jboolean, seamPages)(JNIEnv*, jclass, jboolean on) {
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  const bool was = state().pages;
+  state().pages = on != JNI_FALSE;
+  return was ? JNI_TRUE : JNI_FALSE;
+}
+
+// ---------------------------------------------------------------- kxtest.SeamPagesTest
+// Blocks taken from the seam directly, and reads and writes wherever the test
+// plants them: past a block, before it, after its release.  The accesses are
+// left unchecked by AddressSanitizer, so that in every build the memory
+// itself answers (a guard byte, or SIGSEGV).
+
+#define SEAM_JNI(ret, name)                                                     \
+  extern "C" __attribute__((visibility("default"), no_sanitize_address)) JNIEXPORT ret JNICALL \
+      Java_kxtest_SeamPagesTest_##name
+
+namespace {
+uint8_t* at(jlong block, jint offset) {
+  return reinterpret_cast<uint8_t*>(static_cast<uintptr_t>(block)) + offset;
+}
+}  // namespace
+
+SEAM_JNI(jlong, take)(JNIEnv*, jclass, jint bytes) {
+  return static_cast<jlong>(reinterpret_cast<uintptr_t>(pernix_seam_alloc(static_cast<size_t>(bytes))));
+}
+
+SEAM_JNI(void, give)(JNIEnv*, jclass, jlong block, jint bytes, jboolean wipe) {
+  pernix_seam_free(at(block, 0), static_cast<size_t>(bytes), wipe != JNI_FALSE ? 1 : 0);
+}
+
+SEAM_JNI(jint, peek)(JNIEnv*, jclass, jlong block, jint offset) {
+  return *static_cast<volatile uint8_t*>(at(block, offset));
+}
+
+SEAM_JNI(void, poke)(JNIEnv*, jclass, jlong block, jint offset, jint value) {
+  *static_cast<volatile uint8_t*>(at(block, offset)) = static_cast<uint8_t>(value);
+}
+
+SEAM_JNI(jlong, pageSize)(JNIEnv*, jclass) { return static_cast<jlong>(fake::page_size()); }

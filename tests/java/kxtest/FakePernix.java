@@ -94,6 +94,14 @@ public final class FakePernix {
     public static native int allocationCount();
 
 
+    /**
+     * Switches the seam's page mode for the blocks allocated from now on (each
+     * block ends where an inaccessible page begins; a released block becomes
+     * inaccessible); KX_SEAM_PAGES=1 in the environment starts with it on.
+     * Answers whether it was on.
+     */
+    public static native boolean seamPages(boolean on);
+
     /** Blocks allocated and not yet released. */
     public static native int liveBlocks();
 
