@@ -2,8 +2,10 @@
 # The load test at length: kxtest.Soak calls every native from several Java
 # threads at once against the x86-64 test build and the test double, for
 # `seconds` (default 60), and fails when a thread gets a result it did not
-# expect or when the resident size, the malloc heap, the seam's live blocks or
-# the JNI references grow from the first tenth of the run to the last.  The
+# expect, when the resident size, the malloc heap, the seam's live blocks or
+# the JNI global references grow from the first tenth of the run to the last
+# (the lowest sample of each: the JIT's compiler arenas come and go), or when
+# more JNI local references are in flight than the calls can hold.  The
 # test command runs it for 10 seconds after 5 of warm-up (the `soak` leg).
 #
 # usage: soak.sh [seconds]     after the build command (bash scripts/build.sh)

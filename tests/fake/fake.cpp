@@ -653,6 +653,15 @@ FAKE_JNI(jint, liveBlocks)(JNIEnv*, jclass) {
   return static_cast<jint>(state().live.size());
 }
 
+// Bytes of memory the double keeps for reuse: released blocks and the byte
+// buffers of forgotten calls.
+FAKE_JNI(jlong, keptBytes)(JNIEnv*, jclass) {
+  std::lock_guard<std::recursive_mutex> lock(state().mu);
+  size_t kept = state().spare_block_bytes;
+  for (const auto& copy : state().spare_copies) kept += copy.capacity();
+  return static_cast<jlong>(kept);
+}
+
 FAKE_JNI(jlong, peakBytes)(JNIEnv*, jclass) {
   std::lock_guard<std::recursive_mutex> lock(state().mu);
   return static_cast<jlong>(state().peak_bytes);

@@ -65,6 +65,11 @@ PROBE(jlongArray, jniReferences)(JNIEnv* env, jclass) {
   return out;
 }
 
+// Gives the memory malloc keeps free in its arenas back to the system, so that
+// the resident size sampled next counts what is held, not what the allocator
+// caches (a compiler thread's freed arenas stay resident for seconds otherwise).
+PROBE(void, trimMalloc)(JNIEnv*, jclass) { malloc_trim(0); }
+
 // Bytes malloc has handed out and not yet taken back (small blocks and
 // mapped ones), over every arena.
 PROBE(jlong, mallocInUse)(JNIEnv*, jclass) {

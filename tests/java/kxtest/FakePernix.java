@@ -113,6 +113,9 @@ public final class FakePernix {
 
     /** unwipedReleases without the seam test: 0 when there is no seam. */
     public static native int unwipedCount(int size);
+    /** Bytes of memory the double keeps for reuse (released blocks, buffers of forgotten calls). */
+    public static native long keptBytes();
+
     /** Most bytes of the bridge's blocks live at once since reset. */
     public static native long peakBytes();
 

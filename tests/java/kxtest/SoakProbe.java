@@ -11,6 +11,9 @@ public final class SoakProbe {
     /** {global, local} JNI references the JVM holds right now, over every thread. */
     public static native long[] jniReferences();
 
+    /** Returns the memory malloc keeps free to the system (malloc_trim). */
+    public static native void trimMalloc();
+
     /** Bytes of the process's malloc heap in use. */
     public static native long mallocInUse();
 }
