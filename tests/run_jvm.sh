@@ -40,6 +40,9 @@ fi
 for f in "$bridge" "$fake"; do
   [ -f "$f" ] || { echo "run_jvm: $f not built (run the build command first)"; exit 1; }
 done
+# The JVM loads libraries by absolute path only.
+bridge=$(cd "$(dirname "$bridge")" && pwd)/$(basename "$bridge")
+fake=$(cd "$(dirname "$fake")" && pwd)/$(basename "$fake")
 has_seam=no
 nm -D --undefined-only "$bridge" | grep -q ' pernix_seam_alloc$' && has_seam=yes
 if [ "$has_seam" != "$seam" ]; then
