@@ -7,9 +7,13 @@
 // the object reader reports failure by returning null and leaves the JVM's
 // exception pending for the caller to test.
 //
-// A helper entered with an exception already pending makes no JNI call and
-// fails as if its first call had failed.  Local references a helper creates
-// are deleted before it returns, except the reference it hands back.
+// The object given is never null: these helpers serve the converters of
+// custom fields, which the walker runs on the object it holds.  The readers,
+// jni_set_object and jni_jstring_to_char_array entered with an exception
+// already pending make no JNI call and fail as if their first call had
+// failed; the other writers are called with none pending (the walker and the
+// converters test first).  Local references a helper creates are deleted
+// before it returns, except the reference it hands back.
 #pragma once
 
 #include <jni.h>
@@ -23,8 +27,8 @@ jobject jni_get_object(JNIEnv* env, jobject obj, const char* name, const char* s
 int jni_get_string(JNIEnv* env, jobject obj, const char* name, char* dst, size_t n);
 int jni_get_byte_2array(JNIEnv* env, jobject obj, const char* name, void* dst, jsize rows,
                         jsize cols);
-// String argument into an n-byte buffer.  An empty (or null) String yields an
-// empty C string and kx::kMarshal.
+// String argument into an n-byte buffer (n > 0).  An empty (or null) String
+// yields an empty C string and kx::kMarshal.
 int jni_jstring_to_char_array(JNIEnv* env, jstring str, char* dst, size_t n);
 
 // ---- writers: C into a Java object field ----
@@ -35,14 +39,14 @@ int jni_set_string_unicode(JNIEnv* env, jobject obj, const char* name, const cha
 // New int[n], element i the sign-extended byte i of src; null on failure.
 jintArray jni_create_int_array_from_char(JNIEnv* env, const void* src, jsize n);
 
-// ---- objects and arrays ----
-jobject jni_new_object(JNIEnv* env, const char* cls);
+// ---- arrays ----
 jobjectArray new_object_array(JNIEnv* env, const char* cls, jsize length);
 
 namespace kx {
 
 // The copy steps of the readers above, on a value already fetched from its
-// field: kMarshal for a null value or a failed copy.  Called with no
+// field (not null, but for string_into: kMarshal for a null String) into a
+// buffer of at least one byte: kMarshal for a failed copy.  Called with no
 // exception pending.
 int string_into(JNIEnv* env, jstring str, char* dst, size_t n);
 int int_array_into(JNIEnv* env, jintArray arr, int32_t* dst, jsize n);

@@ -33,11 +33,13 @@ class LocalRef {
   T ref_;
 };
 
-// The modified UTF-8 characters of a Java String, released on scope exit.
+// The modified UTF-8 characters of a Java String (not null), released on
+// scope exit; null when the JVM cannot hand them over (its OutOfMemoryError
+// then pending).
 class UtfChars {
  public:
   UtfChars(JNIEnv* env, jstring str) noexcept
-      : env_(env), str_(str), chars_(str ? env->GetStringUTFChars(str, nullptr) : nullptr) {}
+      : env_(env), str_(str), chars_(env->GetStringUTFChars(str, nullptr)) {}
   UtfChars(const UtfChars&) = delete;
   UtfChars& operator=(const UtfChars&) = delete;
   ~UtfChars() {

@@ -1,7 +1,6 @@
 #include "core/lookups.h"
 
 #include "core/errors.h"
-#include "core/jni_refs.h"
 
 namespace kx {
 namespace {
@@ -23,8 +22,8 @@ Lookups::~Lookups() {
 
 Lookups* Lookups::active() noexcept { return current; }
 
-bool Lookups::hold() {
-  if (held_ == kClasses + kEntries + kFieldIds) return false;
+bool Lookups::hold(bool room) {
+  if (!room) return false;  // GCOVR_EXCL_BR_LINE: every native's tree fits the lookups (tests/probe/lookup_room.cmake)
   // The references held here come on top of the walker's own; make sure the
   // frame has room for both.  Called only with no exception pending.
   if (env_->EnsureLocalCapacity(held_ + 1 + kSpareRefs) != JNI_OK) {
@@ -45,7 +44,7 @@ jclass Lookups::find(const char* path, bool& held) {
     }
   }
   jclass cls = find_class(env_, path);
-  held = cls != nullptr && classes_ < kClasses && hold();
+  held = cls != nullptr && hold(classes_ < kClasses);
   if (held) {
     paths_[classes_] = path;
     class_refs_[classes_++] = cls;
@@ -54,7 +53,7 @@ jclass Lookups::find(const char* path, bool& held) {
 }
 
 Lookups::Entry* Lookups::add(const RecordDesc& desc, jclass cls, bool made) {
-  if (entries_ == kEntries || ids_ + static_cast<int>(desc.field_count) > kIds) return nullptr;
+  if (entries_ == kEntries || ids_ + static_cast<int>(desc.field_count) > kIds) return nullptr;  // GCOVR_EXCL_BR_LINE: every native's tree fits the lookups (tests/probe/lookup_room.cmake)
   jfieldID* ids = id_pool_ + ids_;
   for (uint32_t i = 0; i < desc.field_count; ++i) ids[i] = nullptr;
   ids_ += static_cast<int>(desc.field_count);
@@ -63,7 +62,7 @@ Lookups::Entry* Lookups::add(const RecordDesc& desc, jclass cls, bool made) {
   return e;
 }
 
-Lookups::Entry* Lookups::made(const RecordDesc& desc) {
+Lookups::Entry* Lookups::made(const RecordDesc& desc, jclass& unheld) {
   for (int i = entries_ - 1; i >= 0; --i) {
     Entry& e = entries_table_[i];
     if (e.made && e.desc == &desc) return &e;
@@ -71,39 +70,39 @@ Lookups::Entry* Lookups::made(const RecordDesc& desc) {
   bool held = false;
   jclass cls = find(desc.cls, held);
   if (cls == nullptr) return nullptr;
-  if (!held) {  // GCOVR_EXCL_START: every native's tree fits the lookups (tests/probe/lookup_room.cmake)
-    // No room to keep the class: the caller looks it up again by path.
-    env_->DeleteLocalRef(cls);
+  if (!held) {  // no room to keep the class: the caller's own reference
+    unheld = cls;
     return nullptr;
-  }  // GCOVR_EXCL_STOP
-  return add(desc, cls, true);
+  }
+  Entry* e = add(desc, cls, true);
+  // The class stays in the table; the caller gets a reference of its own.
+  if (e == nullptr) unheld = static_cast<jclass>(env_->NewLocalRef(cls));  // GCOVR_EXCL_LINE: every native's tree fits the lookups (tests/probe/lookup_room.cmake)
+  return e;
 }
 
 jfieldID Lookups::field_id(JNIEnv* env, jobject obj, const Field& f, const char* sig) {
-  if (obj == nullptr || pending(env)) return nullptr;
-  Lookups* l = current;
-  if (l != nullptr && l->env_ != env) l = nullptr;
-  if (l != nullptr && l->writing.obj == obj && l->writing.entry != nullptr &&
-      &l->writing.entry->desc->fields[l->writing.index] == &f) {
+  // The walker that runs the converter has made the call's Lookups current.
+  Lookups& l = *current;
+  const Writing& w = l.writing;
+  if (w.obj == obj && w.entry != nullptr &&
+      // The converter's own field (no converter looks up another).
+      &w.entry->desc->fields[w.index] == &f) {  // GCOVR_EXCL_BR_LINE: see above
     // An object the walker made: of exactly the entry's class.
-    jfieldID& slot = l->writing.entry->ids[l->writing.index];
-    if (slot == nullptr) slot = env->GetFieldID(l->writing.entry->cls, f.name, sig);
+    jfieldID& slot = w.entry->ids[w.index];
+    if (slot == nullptr) slot = env->GetFieldID(w.entry->cls, f.name, sig);
     return slot;
   }
   jclass cls = env->GetObjectClass(obj);
-  if (cls == nullptr) return nullptr;
-  if (l != nullptr) {
-    for (int i = 0; i < l->field_ids_; ++i) {
-      FieldId& known = l->field_id_table_[i];
-      if (known.field == &f && env->IsSameObject(known.cls, cls)) {
-        env->DeleteLocalRef(cls);
-        return known.id;
-      }
+  for (int i = 0; i < l.field_ids_; ++i) {
+    FieldId& known = l.field_id_table_[i];
+    if (known.field == &f && env->IsSameObject(known.cls, cls)) {
+      env->DeleteLocalRef(cls);
+      return known.id;
     }
   }
   jfieldID id = env->GetFieldID(cls, f.name, sig);
-  if (id != nullptr && l != nullptr && l->field_ids_ < kFieldIds && l->hold()) {
-    l->field_id_table_[l->field_ids_++] = FieldId{&f, cls, id};
+  if (id != nullptr && l.hold(l.field_ids_ < kFieldIds)) {
+    l.field_id_table_[l.field_ids_++] = FieldId{&f, cls, id};
   } else {
     env->DeleteLocalRef(cls);
   }
@@ -113,9 +112,10 @@ jfieldID Lookups::field_id(JNIEnv* env, jobject obj, const Field& f, const char*
 Lookups::Entry* Lookups::seen(const RecordDesc& desc, jclass& cls) {
   for (int i = entries_ - 1; i >= 0; --i) {
     Entry& e = entries_table_[i];
-    if (!e.made && e.desc == &desc && env_->IsSameObject(e.cls, cls)) return &e;
+    // A writer's entry of the same class serves as well: its IDs are that class's.
+    if (e.desc == &desc && env_->IsSameObject(e.cls, cls)) return &e;
   }
-  if (entries_ == kEntries || !hold()) return nullptr;
+  if (!hold(entries_ < kEntries)) return nullptr;
   Entry* e = add(desc, cls, false);
   if (e == nullptr) {  // GCOVR_EXCL_START: every native's tree fits the lookups (tests/probe/lookup_room.cmake)
     --held_;

@@ -48,7 +48,8 @@ class Lookups {
  public:
   // What one record description resolves to.  A writer's entry holds the
   // described class (every object it makes is of that class); a reader's entry
-  // holds the class of an object it was given, which may be a subclass.
+  // holds the class of an object it was given, which may be a subclass (a
+  // writer's entry serves readers of objects of exactly its class).
   struct Entry {
     const RecordDesc* desc;
     jclass cls;        // held for the call (writers share it with the class table)
@@ -80,15 +81,16 @@ class Lookups {
 
   // The writer's entry of desc, its class found at the first call.  Null with
   // an exception pending when the class cannot be found; null without one when
-  // there is no room (the caller then looks everything up by name).
-  Entry* made(const RecordDesc& desc);
+  // there is no room, `unheld` then set to a local reference of the class
+  // that the caller owns (and everything is looked up by name).
+  Entry* made(const RecordDesc& desc, jclass& unheld);
 
-  // The ID of field f (signature sig) of obj, for converters that handle one
-  // field on their own (custom fields): remembered per field and class of
-  // obj for the call that is running; looked up by name as the accessors do
-  // when none is or there is no room left.  Null for a null obj or when an
-  // exception is pending; null with the JVM's exception pending when the
-  // class has no such field.
+  // The ID of field f (signature sig) of obj, for the converters of custom
+  // fields, which the walker runs within a call's Lookups with the object it
+  // holds and no exception pending: remembered per field and class of obj
+  // for the call; looked up by name as the accessors do when there is no
+  // room left.  Null with the JVM's exception pending when the class has no
+  // such field.
   static jfieldID field_id(JNIEnv* env, jobject obj, const Field& f, const char* sig);
 
   // The object whose field `index` a custom converter is writing, with the
@@ -111,7 +113,9 @@ class Lookups {
   // Local references the walker may make besides those held here.
   static constexpr jint kSpareRefs = 32;
 
-  bool hold();  // room for one more held reference
+  // Room for one more held reference: `room` says whether its table has a
+  // free place, and the JVM must agree to one more local reference.
+  bool hold(bool room);
   Entry* add(const RecordDesc& desc, jclass cls, bool made);
 
   JNIEnv* env_;
@@ -210,12 +214,6 @@ constexpr LookupNeed operator+(LookupNeed a, LookupNeed b) {
   return {a.classes + b.classes, a.entries + b.entries, a.ids + b.ids, a.field_ids + b.field_ids,
           a.counted && b.counted};
 }
-
-// write_record for callers that keep track of pending exceptions: `clean`
-// says on entry whether the caller knows that none is pending, and on return
-// whether the walker knows that none is (when false, ask the JVM).
-// `lookups` is the call's (Lookups::active() or one of the caller's own).
-jobject write_record(Lookups& lookups, JNIEnv* env, const RecordDesc& desc, const void* rec, bool& clean);
 
 // Runs fn(Lookups&) with the call's Lookups, or with one of its own while no
 // call has one.

@@ -6,10 +6,10 @@
 
 namespace kx {
 
-// Zero-filled block of count * size bytes; null when it cannot be had
-// (including a negative or overflowing count).
+// Zero-filled block of count * size bytes (size > 0); null when it cannot be
+// had (including a negative or overflowing count).
 void* allocate(std::ptrdiff_t count, std::size_t size);
-// Releases a block from allocate(); `wipe` clears it first (secrets).
+// Releases a block (not null) from allocate(); `wipe` clears it first (secrets).
 void release(void* block, std::size_t bytes, bool wipe);
 
 // Owns one block and releases it exactly once.
@@ -24,13 +24,12 @@ class Block {
   Block& operator=(const Block&) = delete;
   Block(Block&& other) noexcept
       : data_(std::exchange(other.data_, nullptr)), bytes_(other.bytes_), wipe_(other.wipe_) {}
+  // A block moved into itself ends up empty (its memory released).
   Block& operator=(Block&& other) noexcept {
-    if (this != &other) {
-      reset();
-      data_ = std::exchange(other.data_, nullptr);
-      bytes_ = other.bytes_;
-      wipe_ = other.wipe_;
-    }
+    reset();
+    data_ = std::exchange(other.data_, nullptr);
+    bytes_ = other.bytes_;
+    wipe_ = other.wipe_;
     return *this;
   }
   ~Block() { reset(); }

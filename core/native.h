@@ -25,7 +25,6 @@
 #include <concepts>
 #include <cstddef>
 #include <cstdio>
-#include <initializer_list>
 #include <type_traits>
 #include <utility>
 
@@ -121,8 +120,8 @@ template <typename R>
 struct Required : In<R> {
   using In<R>::In;
   int fill(JNIEnv* env) {
-    int rc = read_record(env, this->obj, this->desc, this->rec.get());
-    return rc != kOk || pending(env) ? kMarshal : kOk;
+    // Read whole only when no exception is left pending (read_record).
+    return read_record(env, this->obj, this->desc, this->rec.get()) == kOk ? kOk : kMarshal;
   }
 };
 template <typename R>
@@ -165,22 +164,18 @@ template <typename R>
 jobjectArray list_of(JNIEnv* env, const Desc<R>& desc, const R* records, jsize n, ListEnd end) {
   LocalRef<jobjectArray> arr(env, new_object_array(env, desc.cls, n));
   if (!arr) return nullptr;
-  with_lookups(env, [&](Lookups& lookups) {
-    bool clean = false;  // no exception known to be pending
-    for (jsize i = 0; i < n; ++i) {
-      LocalRef<jobject> item(env, write_record(lookups, env, desc, &records[i], clean));
-      // With an exception pending the element cannot be stored: it counts
-      // as not built.
-      if (!item || (!clean && pending(env))) {
-        if (end == ListEnd::Stop) break;
-        clean = false;
-        continue;
-      }
-      clean = true;
-      // An element of the array's own class, inside its bounds: cannot raise.
-      env->SetObjectArrayElement(arr.get(), i, item.get());
+  bool clean = true;  // no exception pending
+  for (jsize i = 0; i < n; ++i) {
+    LocalRef<jobject> item(env, write_record(env, desc, &records[i], clean));
+    // With an exception pending the element cannot be stored: it counts
+    // as not built.
+    if (!item || !clean) {
+      if (end == ListEnd::Stop) break;
+      continue;
     }
-  });
+    // An element of the array's own class, inside its bounds: cannot raise.
+    env->SetObjectArrayElement(arr.get(), i, item.get());
+  }
   return arr.release();
 }
 
@@ -290,10 +285,15 @@ struct TextField {
   size_t size;
 };
 
-// A new String[] holding the given fields in order.  Every String is made
-// before the array; a String that cannot be made leaves its element null.
-// Null, with `code` set to 2817, when the array itself cannot be made.
-jobjectArray string_array(JNIEnv* env, std::initializer_list<TextField> fields, int& code);
+// A new String[] holding the given fields (at most 8) in order.  Every
+// String is made before the array.  Null, with `code` set to 2817, when a
+// String or the array cannot be made.
+jobjectArray string_array(JNIEnv* env, const TextField* fields, size_t n, int& code);
+template <size_t N>
+jobjectArray string_array(JNIEnv* env, const TextField (&fields)[N], int& code) {
+  static_assert(N <= 8, "at most 8 strings");
+  return string_array(env, fields, N, code);
+}
 
 // ------------------------------------------------------------ the frame
 
@@ -304,6 +304,11 @@ concept ArgKind = requires(S s) { s.arg(); };
 template <typename S>
 concept Result = ArgKind<S> && requires { typename S::result_type; };
 
+// The steps of the frame over its arguments, each one function over the
+// whole list, so that the frame tests one decision per step whatever the
+// number and kinds of the arguments.  The tests of whether an argument is
+// missing have no effect and are all made; preparing and filling stop at
+// the first argument that fails.
 template <typename S>
 bool missing(const S& s) {
   if constexpr (requires { s.missing(); }) return s.missing();
@@ -316,22 +321,34 @@ bool missing_after_prepare(const S& s) {
   if constexpr (requires { s.missing_after_prepare(); }) return s.missing_after_prepare();
   else return false;
 }
-template <typename S>
-bool prepare(JNIEnv* env, S& s) {
-  if constexpr (ArgKind<S>) return s.prepare(env);
-  else return true;
+template <typename... S>
+bool any_missing(const S&... s) {
+  return (missing(s) | ... | false);
+}
+template <typename... S>
+bool any_missing_after_prepare(const S&... s) {
+  return (missing_after_prepare(s) | ... | false);
+}
+inline bool prepare_each(JNIEnv*) { return true; }
+template <typename S, typename... Rest>
+bool prepare_each(JNIEnv* env, S& s, Rest&... rest) {
+  if constexpr (ArgKind<S>) {
+    if (!s.prepare(env)) return false;
+  }
+  return prepare_each(env, rest...);
 }
 // A kind's fill() may return a status: non-zero stops the call before the
 // library is reached, and that code is thrown.  A kind whose fill() returns
 // nothing cannot stop the call.
-template <typename S>
-int fill(JNIEnv* env, S& s) {
+inline int fill_each(JNIEnv*) { return kOk; }
+template <typename S, typename... Rest>
+int fill_each(JNIEnv* env, S& s, Rest&... rest) {
   if constexpr (requires { { s.fill(env) } -> std::same_as<int>; }) {
-    return s.fill(env);
-  } else {
-    if constexpr (requires { s.fill(env); }) s.fill(env);
-    return kOk;
+    if (int rc = s.fill(env); rc != kOk) return rc;
+  } else if constexpr (requires { s.fill(env); }) {
+    s.fill(env);
   }
+  return fill_each(env, rest...);
 }
 template <typename S>
 decltype(auto) arg(S& s) {
@@ -387,14 +404,10 @@ auto call(JNIEnv* env, const Options& opt, Fn&& fn, S&&... args) -> detail::resu
     if constexpr (!std::is_void_v<T>) return detail::failure<T>(opt);
   };
 
-  if ((detail::missing(args) || ...)) return fail(kNullArgument);
-  bool ready = true;
-  ((ready = ready && detail::prepare(env, args)), ...);
-  if (!ready) return fail(kNoMemory);
-  if ((detail::missing_after_prepare(args) || ...)) return fail(kNullArgument);
-  int filled = kOk;
-  ((filled = filled == kOk ? detail::fill(env, args) : filled), ...);
-  if (filled != kOk) return fail(filled);
+  if (detail::any_missing(args...)) return fail(kNullArgument);
+  if (!detail::prepare_each(env, args...)) return fail(kNoMemory);
+  if (detail::any_missing_after_prepare(args...)) return fail(kNullArgument);
+  if (int filled = detail::fill_each(env, args...); filled != kOk) return fail(filled);
 
   int rc = fn(detail::arg(args)...);
   if (rc != kOk) return fail(rc);

@@ -80,9 +80,11 @@ struct RecordDesc {
 template <typename R>
 struct Desc : RecordDesc {};
 
-// Fills `rec` from `obj`, fields in record order, stopping at the first
-// failure: -1 for a null object or record (or a null nested object or array),
-// kMarshal for a field that cannot be read, 0 when all were read.  Arrays of
+// Fills `rec` (never null) from `obj`, fields in record order, stopping at
+// the first failure: -1 for a null object (or a null nested object or array),
+// kMarshal for a field that cannot be read or that left a Java exception
+// pending, 0 when all were read (no exception is then pending; converters of
+// custom fields keep the same rule).  Arrays of
 // records are read over the Java array's length, at most the C capacity;
 // the elements' own statuses are not reported.
 int read_record(JNIEnv* env, jobject obj, const RecordDesc& desc, void* rec);
@@ -91,6 +93,11 @@ int read_record(JNIEnv* env, jobject obj, const RecordDesc& desc, void* rec);
 // object cannot be made or a checked field cannot be set.  Arrays of records
 // are always built at their full capacity.
 jobject write_record(JNIEnv* env, const RecordDesc& desc, const void* rec);
+
+// write_record for callers that keep track of pending exceptions: `clean`
+// says on entry whether the caller knows that none is pending, and on return
+// whether none is.
+jobject write_record(JNIEnv* env, const RecordDesc& desc, const void* rec, bool& clean);
 
 template <typename R>
 int read_record(JNIEnv* env, jobject obj, const Desc<R>& desc, R* rec) {

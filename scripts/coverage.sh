@@ -39,6 +39,12 @@ status=0
 
 bridge_dirs=()
 for d in core session raid host account perf firmware replication; do bridge_dirs+=(--filter "$root/$d/"); done
+# --exclude-throw-branches: the bridge neither throws nor catches C++
+# exceptions; the edge gcov counts after every call that might throw is the
+# compiler's, no test the source makes.  --exclude-unreachable-branches:
+# branches gcov finds on lines without code of their own (a closing brace).
+# Branches the source makes and no caller can take are marked in the source
+# instead, each with its reason (GCOVR_EXCL_BR_LINE and the like).
 report() {
   gcovr -r "$root" "${bridge_dirs[@]}" --exclude-unreachable-branches --exclude-throw-branches "$@" "$objects"
 }

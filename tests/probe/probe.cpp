@@ -7,6 +7,7 @@
 
 #include "core/accessors.h"
 #include "core/errors.h"
+#include "core/jni_refs.h"
 
 namespace {
 
@@ -80,7 +81,12 @@ PROBE(jint, classNotFoundThrow)(JNIEnv* env, jclass, jstring path) {
   return classNotFoundThrow(env, p.chars);
 }
 
+// A new object of the class at `cls` by its no-argument constructor, the
+// class found as the bridge finds classes.
 PROBE(jobject, newObject)(JNIEnv* env, jclass, jstring cls) {
   Utf p(env, cls);
-  return jni_new_object(env, p.chars);
+  kx::LocalRef<jclass> c(env, find_class(env, p.chars));
+  if (!c) return nullptr;
+  jmethodID ctor = env->GetMethodID(c.get(), "<init>", "()V");
+  return ctor != nullptr ? env->NewObject(c.get(), ctor) : nullptr;
 }

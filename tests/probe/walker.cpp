@@ -62,7 +62,11 @@ namespace {
 class Stuffing {
  public:
   Stuffing(JNIEnv* env, kx::Lookups& lookups) : descs_(kx::Lookups::kEntries, kRow) {
-    for (auto& d : descs_) lookups.made(d);
+    for (auto& d : descs_) {
+      jclass unheld = nullptr;
+      lookups.made(d, unheld);
+      if (unheld != nullptr) env->DeleteLocalRef(unheld);
+    }
     for (int i = 0; i < kx::Lookups::kClasses; ++i) {
       std::strcpy(paths_[i], "java/lang/Object");
       bool held = false;

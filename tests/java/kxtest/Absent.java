@@ -19,6 +19,18 @@ final class Absent {
     /** From now on, until none(), no array of any of the classes can be made on this thread (OutOfMemoryError). */
     static native void arrays(Class<?>[] classes);
 
-    /** Every field can be looked up and every array made again; how often the absent field was asked for or an array refused. */
+    /**
+     * From now on, until none(), call number nth (0 the first, -1 every one) of JNI
+     * function `function` on this thread fails as the JVM fails it when memory or
+     * room runs out: EnsureLocalCapacity, NewStringUTF, NewIntArray,
+     * NewByteArray, GetStringUTFChars, GetIntArrayElements, NewObject,
+     * FindClass or GetMethodID.
+     */
+    static native void refuse(String function, int nth);
+
+    /** Calls of JNI function `function` (one refuse() names) since refuse(). */
+    static native int calls(String function);
+
+    /** Every field can be looked up, every array made and every call answered again; how often the absent field was asked for, an array or a call refused. */
     static native int none();
 }

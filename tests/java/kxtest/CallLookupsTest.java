@@ -57,6 +57,38 @@ public class CallLookupsTest extends BridgeTest {
         }
     }
 
+    /** Hides the inherited rate readhit with one of its own. */
+    public static class HidingGraphBase extends PerformanceCollectGraphBase {
+        public short readhit;
+    }
+
+    @Test
+    public void ratesOfSubclassesAreReadFromTheirOwnFields() {
+        // The rates' own converter remembers their IDs per class: ports 0 and 2
+        // of the base class, 1 and 3 of the subclass.
+        PerformanceCollectGraph g = new PerformanceCollectGraph();
+        g.mtime = new KXTime[] {new KXTime(), new KXTime()};
+        g.port = new PerformanceCollectGraphPort[4];
+        for (int i = 0; i < 4; i++) {
+            PerformanceCollectGraphBase b = i % 2 == 0 ? new PerformanceCollectGraphBase() : new HidingGraphBase();
+            b.readhit = (short) (100 + i);  // the inherited field
+            b.writehit = (short) (300 + i);
+            if (b instanceof HidingGraphBase) ((HidingGraphBase) b).readhit = (short) (-200 - i);
+            g.port[i] = new PerformanceCollectGraphPort();
+            g.port[i].base = b;
+        }
+        PerformanceCollectGraphInfo info = new PerformanceCollectGraphInfo();
+        info.graphinfo = new PerformanceCollectGraph[] {g};
+        jni.KX_PerformanceDataOutput("x", info);
+        java.nio.ByteBuffer sent = java.nio.ByteBuffer.wrap(FakePernix.pointee("KX_PerformanceDataOutput", 0, 1, 0))
+            .order(java.nio.ByteOrder.LITTLE_ENDIAN);
+        for (int i = 0; i < 4; i++) {
+            int base = 88 + 48 * i;  // port i's base
+            assertEquals("readhit " + i, (i % 2 == 0 ? 100 + i : -200 - i) / 100.0, sent.getDouble(base + 16), 0);
+            assertEquals("writehit " + i, (300 + i) / 100.0, sent.getDouble(base + 24), 0);
+        }
+    }
+
     /** 4096 rows: the first half stop at their null string, so "gone" is first reached by row 2048. */
     static Table halfBrokenTable() {
         Table t = new Table();
