@@ -25,7 +25,7 @@ cmake -S . -B "$dir" -DKX_BUILD_TESTS=ON -DKX_BUILD_SIM=OFF -DCMAKE_BUILD_TYPE=D
       -DCMAKE_CXX_FLAGS="--coverage -O0" -DCMAKE_C_FLAGS="--coverage -O0" \
       -DCMAKE_SHARED_LINKER_FLAGS=--coverage >/dev/null
 # The x86-64 test build only: the i386 and sanitized builds are not needed here.
-cmake --build "$dir" -j"$jobs" --target bridge pernix kxflush kxprobe kx_test_classes
+cmake --build "$dir" -j"$jobs" --target bridge pernix kxflush kxprobe kx_test_classes kx_catalogue_txt
 
 objects="$dir/CMakeFiles/kx_objects.dir"
 find "$dir" -name '*.gcda' -delete

@@ -20,11 +20,22 @@ foreach(header IN LISTS headers)
   string(REGEX MATCHALL "KX_RECORD(_NO_FLUSH)?\\([ \t\r\n]*[A-Za-z0-9_]+" found "${body}")
   foreach(match IN LISTS found)
     string(REGEX REPLACE "^KX_RECORD(_NO_FLUSH)?\\([ \t\r\n]*" "" name "${match}")
-    string(APPEND entries "    &kx::rec::${name},\n")
+    string(APPEND entries "    &kx::rec::${name}, \\\n")
   endforeach()
 endforeach()
-string(APPEND text "\nnamespace {\nconstexpr const kx::RecordDesc* kAll[] = {\n${entries}};\n"
-                   "constexpr auto kRows = kx::catalogue_rows<kx::catalogue_size(kAll)>(kAll);\n"
+# The list lives inside consteval functions only, so that no optimisation
+# level emits it (with it, the descriptions and their converters).
+string(APPEND text "\n#define KX_ALL_DESCRIPTIONS \\\n${entries}\n"
+                   "namespace {\n"
+                   "consteval std::size_t rows_size() {\n"
+                   "  const kx::RecordDesc* all[] = {KX_ALL_DESCRIPTIONS};\n"
+                   "  return kx::catalogue_size(all);\n"
+                   "}\n"
+                   "consteval kx::CatalogueRows<rows_size()> rows() {\n"
+                   "  const kx::RecordDesc* all[] = {KX_ALL_DESCRIPTIONS};\n"
+                   "  return kx::catalogue_rows<rows_size()>(all);\n"
+                   "}\n"
+                   "constexpr auto kRows = rows();\n"
                    "}  // namespace\n\n"
                    "kx::CatalogueSpan kx::catalogue() { return {kRows.rows, std::size(kRows.rows)}; }\n")
 if(EXISTS "${OUT}")
