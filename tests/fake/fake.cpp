@@ -185,7 +185,10 @@ Guards guards_of(const Block& b, void* block) {
 uint8_t* mapped_block(size_t bytes, Block& b) {
   const size_t page = page_size();
   const size_t body = (kGuard + bytes + page - 1) / page * page;
-  void* m = mmap(nullptr, body + 2 * page, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+  // Reserved with the kernel's accounting, like malloc's memory: a block no
+  // machine can hold (a hostile count) fails at the mprotect below instead
+  // of being poison-filled into the out-of-memory killer.
+  void* m = mmap(nullptr, body + 2 * page, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
   if (m == MAP_FAILED) return nullptr;
   auto* map = static_cast<uint8_t*>(m);
   if (mprotect(map + page, body, PROT_READ | PROT_WRITE) != 0) {

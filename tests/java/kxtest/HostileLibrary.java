@@ -30,7 +30,8 @@ import org.junit.Test;
  *
  * Not a *Test: run it by name.  Properties: kx.hostile.seeds (how many, default
  * 40), kx.hostile.first (first seed, default 1), kx.hostile.seed (replay this one
- * seed), kx.hostile.native (only this native).
+ * seed), kx.hostile.native (only this native), kx.hostile.trace (print each
+ * call before it is made).
  */
 public class HostileLibrary extends BridgeTest {
     /**
@@ -84,6 +85,7 @@ public class HostileLibrary extends BridgeTest {
     }
 
     static final long STACK = Long.getLong("kx.hostile.stack", 256 << 10);
+    static final boolean TRACE = Boolean.getBoolean("kx.hostile.trace");
 
     void callOnce(FrameTableTest.Row r, long seed, long fakeSeed) throws Exception {
         Object[] args;
@@ -102,6 +104,7 @@ public class HostileLibrary extends BridgeTest {
             }
         }
         String where = r.name + " seed " + seed;
+        if (TRACE) System.out.println("hostile: " + where);
         FakePernix.reset();
         FakePernix.hostile(fakeSeed);
         Object[] result = new Object[1];
