@@ -56,4 +56,45 @@ public class CatalogueTest {
         }
         if (!problems.isEmpty()) fail(problems.size() + " problem(s):\n" + String.join("\n", problems));
     }
+
+    /**
+     * The hostile runs' result check sees what it is there for: a string one
+     * character over its field and a table one element short, both inside an
+     * element of a nested table; the same tree at the tables' sizes passes.
+     */
+    @Test
+    public void theResultCheckFindsAStringOverItsFieldAndATableOffItsSize() throws Exception {
+        Catalogue c = Catalogue.get();
+        for (String cls : c.classes()) {
+            for (Catalogue.Field table : c.of(cls).values()) {
+                if (!table.kind.equals("records") || table.count < 2 || c.of(table.elem) == null) continue;
+                Catalogue.Field text = c.of(table.elem).values().stream()
+                    .filter(f -> f.kind.equals("string")).findFirst().orElse(null);
+                if (text == null) continue;
+                Class<?> outer = Class.forName(FrameTableTest.RECORD_PACKAGE + cls);
+                Class<?> elem = Class.forName(FrameTableTest.RECORD_PACKAGE + table.elem);
+                Object o = outer.getConstructor().newInstance();
+                Object[] rows = (Object[]) java.lang.reflect.Array.newInstance(elem, table.count);
+                Object e = elem.getConstructor().newInstance();
+                rows[0] = e;
+                outer.getField(table.name).set(o, rows);
+                elem.getField(text.name).set(e, "x".repeat(text.count));
+                HostileInputs check = new HostileInputs(0);
+                List<String> found = new ArrayList<>();
+                check.check(o, found);
+                assertTrue(found.toString(), found.stream().noneMatch(f -> f.contains("." + text.name)));
+                elem.getField(text.name).set(e, "x".repeat(text.count + 1));
+                outer.getField(table.name).set(o, java.util.Arrays.copyOf(rows, table.count - 1));
+                found.clear();
+                check.check(o, found);
+                String at = "result." + table.name;
+                assertTrue(found.toString(), found.contains(at + "[]." + text.name + " holds " + (text.count + 1)
+                                                             + " characters, its field " + text.count + " bytes"));
+                assertTrue(found.toString(), found.contains(at + " holds " + (table.count - 1) + " elements, its table "
+                                                             + table.count));
+                return;
+            }
+        }
+        fail("no record with a table of records that hold a string");
+    }
 }
