@@ -10,18 +10,13 @@ string(APPEND text "#include \"tests/catalogue/catalogue.h\"\n"
                   "// would pull in the bridge's custom field converters).\n"
                   "#undef KX_READER\n#undef KX_WRITER\n"
                   "#define KX_READER(Reader, Class, Rec)\n#define KX_WRITER(Class, Rec)\n")
+include(${CMAKE_CURRENT_LIST_DIR}/../probe/records_of.cmake)
+kx_records_of("${HEADERS}")
+string(APPEND text "${kx_record_includes}")
 set(entries "")
-string(REPLACE "|" ";" headers "${HEADERS}")
-foreach(header IN LISTS headers)
-  get_filename_component(dir "${header}" DIRECTORY)
-  get_filename_component(subsystem "${dir}" NAME)
-  string(APPEND text "#include \"${subsystem}/records.h\"\n")
-  file(READ "${header}" body)
-  string(REGEX MATCHALL "KX_RECORD(_NO_FLUSH)?\\([ \t\r\n]*[A-Za-z0-9_]+" found "${body}")
-  foreach(match IN LISTS found)
-    string(REGEX REPLACE "^KX_RECORD(_NO_FLUSH)?\\([ \t\r\n]*" "" name "${match}")
-    string(APPEND entries "    &kx::rec::${name}, \\\n")
-  endforeach()
+foreach(record IN LISTS kx_records)
+  get_filename_component(name "${record}" NAME)
+  string(APPEND entries "    &kx::rec::${name}, \\\n")
 endforeach()
 # The list lives inside consteval functions only, so that no optimisation
 # level emits it (with it, the descriptions and their converters).
@@ -38,10 +33,4 @@ string(APPEND text "\n#define KX_ALL_DESCRIPTIONS \\\n${entries}\n"
                    "constexpr auto kRows = rows();\n"
                    "}  // namespace\n\n"
                    "kx::CatalogueSpan kx::catalogue() { return {kRows.rows, std::size(kRows.rows)}; }\n")
-if(EXISTS "${OUT}")
-  file(READ "${OUT}" old)
-  if(old STREQUAL text)
-    return()
-  endif()
-endif()
-file(WRITE "${OUT}" "${text}")
+kx_write_if_changed("${text}")
