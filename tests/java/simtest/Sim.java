@@ -260,17 +260,64 @@ final class Sim {
             this(List.of(), env, args);
         }
 
-        /** The same JVM run as nobody (by root, through setpriv). */
+        /**
+         * The same JVM run as nobody (by root, through setpriv), from copies of
+         * its classes and libraries in this class's folder: the checkout may
+         * sit in a folder nobody cannot enter.
+         */
         static Proc asNobody(Map<String, String> env, String... args) throws IOException {
-            return new Proc(List.of("setpriv", "--reuid=nobody", "--regid=nogroup", "--clear-groups"), env, args);
+            Path stage = dir().resolve("as-nobody");
+            String cp = staged(stage.resolve("cp"), System.getProperty("java.class.path"), false);
+            String lib = staged(stage.resolve("lib"), System.getProperty("java.library.path"), true);
+            Map<String, String> e = new HashMap<>(env == null ? Map.of() : env);
+            String ld = System.getenv("LD_LIBRARY_PATH");
+            if (ld != null) e.put("LD_LIBRARY_PATH", staged(stage.resolve("ld"), ld, true));
+            return new Proc(List.of("setpriv", "--reuid=nobody", "--regid=nogroup", "--clear-groups"), e, cp, lib,
+                            args);
+        }
+
+        /** Copies of the entries of a path list under `to` (folders of libraries: their shared objects only). */
+        private static String staged(Path to, String list, boolean libraries) throws IOException {
+            List<String> out = new ArrayList<>();
+            String[] entries = list.split(java.io.File.pathSeparator);
+            for (int i = 0; i < entries.length; i++) {
+                if (entries[i].isEmpty()) continue;
+                Path from = Paths.get(entries[i]);
+                Path copy = to.resolve(String.valueOf(i));
+                if (Files.isRegularFile(from)) {
+                    Files.createDirectories(copy);
+                    copy = copy.resolve(from.getFileName());
+                    if (!Files.exists(copy)) Files.copy(from, copy);
+                } else if (Files.isDirectory(from) && !Files.exists(copy)) {
+                    try (java.util.stream.Stream<Path> walk = Files.walk(from)) {
+                        for (Path f : (Iterable<Path>) walk::iterator) {
+                            Path target = copy.resolve(from.relativize(f).toString());
+                            if (Files.isDirectory(f)) {
+                                if (!libraries) Files.createDirectories(target);
+                            } else if (!libraries || (f.getParent().equals(from) && f.getFileName().toString().contains(".so"))) {
+                                Files.createDirectories(target.getParent());
+                                Files.copy(f, target);
+                            }
+                        }
+                    }
+                    Files.createDirectories(copy);
+                }
+                out.add(copy.toString());
+            }
+            return String.join(java.io.File.pathSeparator, out);
         }
 
         private Proc(List<String> prefix, Map<String, String> env, String... args) throws IOException {
+            this(prefix, env, System.getProperty("java.class.path"), System.getProperty("java.library.path"), args);
+        }
+
+        private Proc(List<String> prefix, Map<String, String> env, String cp, String lib, String... args)
+                throws IOException {
             List<String> cmd = new ArrayList<>(prefix);
             cmd.addAll(Arrays.asList(System.getProperty("sim.java"), "-Xcheck:jni", "-ea",
-                    "-Djava.library.path=" + System.getProperty("java.library.path"),
+                    "-Djava.library.path=" + lib,
                     "-Dsim.java=" + System.getProperty("sim.java"), "-Dsim.tool=" + System.getProperty("sim.tool"),
-                    "-Dsim.dir=" + System.getProperty("sim.dir"), "-cp", System.getProperty("java.class.path"),
+                    "-Dsim.dir=" + System.getProperty("sim.dir"), "-cp", cp,
                     "simtest.Child"));
             cmd.addAll(Arrays.asList(args));
             ProcessBuilder pb = new ProcessBuilder(cmd).redirectErrorStream(true);
